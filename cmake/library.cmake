@@ -1,0 +1,68 @@
+# The two libraries. Family sources are compiled once per target into namespaces of their own; everything else once.
+
+set(PXL_GENERATED ${CMAKE_BINARY_DIR}/generated)
+file(GLOB PXL_API CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/api/*)
+set(PXL_SUBSYSTEMS exchange)
+file(GLOB PXL_FAMILIES CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} exchange/*.cpp)
+
+set(PXL_EXPORT_SOURCES ${PXL_GENERATED}/frame_exports.cpp)
+foreach(subsystem IN LISTS PXL_SUBSYSTEMS)
+    list(APPEND PXL_EXPORT_SOURCES ${PXL_GENERATED}/${subsystem}_exports.cpp)
+endforeach()
+set(PXL_MEMBER_FILES)
+foreach(family IN LISTS PXL_FAMILIES)
+    string(REPLACE ".cpp" ".inc" member_file ${family})
+    list(APPEND PXL_MEMBER_FILES ${PXL_GENERATED}/members/${member_file})
+endforeach()
+
+# The generator keeps the time stamps of files that did not change, so that an entry rebuilds its own family only.
+add_custom_command(
+    OUTPUT ${PXL_GENERATED}/stamp
+    BYPRODUCTS ${PXL_EXPORT_SOURCES} ${PXL_MEMBER_FILES} ${PXL_GENERATED}/member_table.cpp
+               ${PXL_GENERATED}/pxlimx.map ${PXL_GENERATED}/pxlimx.def
+    COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_SOURCE_DIR}/api/generate.py sources ${PXL_GENERATED}
+    COMMAND ${CMAKE_COMMAND} -E touch ${PXL_GENERATED}/stamp
+    DEPENDS ${PXL_API}
+    COMMENT "Generating from the registry")
+add_custom_target(pxl_generate DEPENDS ${PXL_GENERATED}/stamp)
+
+# -ffp-contract=off and no fast-math: results are the same bits on every target. -fno-strict-aliasing: members that move bits
+# see the caller's elements as unsigned ones.
+set(PXL_CODE_FLAGS -ffp-contract=off -fno-math-errno -fno-strict-aliasing)
+
+function(pxl_objects name)
+    add_library(${name} OBJECT ${ARGN})
+    add_dependencies(${name} pxl_generate)
+    target_link_libraries(${name} PRIVATE pxl_flags)
+    target_include_directories(${name} PRIVATE ${PXL_GENERATED})
+    target_compile_options(${name} PRIVATE ${PXL_CODE_FLAGS})
+endfunction()
+
+pxl_objects(pxl_sse2 ${PXL_FAMILIES})
+target_compile_definitions(pxl_sse2 PRIVATE PXL_TARGET=sse2)
+set(PXL_TARGET_OBJECTS $<TARGET_OBJECTS:pxl_sse2>)
+if(PXL_AVX2)
+    pxl_objects(pxl_avx2 ${PXL_FAMILIES})
+    target_compile_definitions(pxl_avx2 PRIVATE PXL_TARGET=avx2)
+    target_compile_options(pxl_avx2 PRIVATE -mavx2)
+    list(APPEND PXL_TARGET_OBJECTS $<TARGET_OBJECTS:pxl_avx2>)
+endif()
+
+pxl_objects(pxl_common ${PXL_EXPORT_SOURCES} frame/memory.cpp frame/version.cpp frame/target.cpp)
+target_compile_definitions(pxl_common PRIVATE $<$<BOOL:${PXL_AVX2}>:PXL_WITH_AVX2>)
+
+add_library(pxlcore SHARED core/pxlcore.cpp)
+target_link_libraries(pxlcore PRIVATE pxl_flags OpenMP::OpenMP_CXX)
+
+add_library(pxlimx SHARED $<TARGET_OBJECTS:pxl_common> ${PXL_TARGET_OBJECTS})
+set_target_properties(pxlimx PROPERTIES OUTPUT_NAME pxlimx-5.3 LINK_DEPENDS ${PXL_GENERATED}/pxlimx.map)
+target_link_options(pxlimx PRIVATE -Wl,--version-script=${PXL_GENERATED}/pxlimx.map -Wl,-z,defs)
+add_dependencies(pxlimx pxl_generate)
+
+foreach(library pxlcore pxlimx)
+    set_target_properties(${library} PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR} LINKER_LANGUAGE CXX)
+    # The run-time dependencies are the C library and OpenMP: what little of the C++ runtime is used comes along.
+    target_link_options(${library} PRIVATE -static-libstdc++ -static-libgcc)
+    target_include_directories(${library} INTERFACE $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/include>
+                                                    $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
+endforeach()

@@ -1,0 +1,9 @@
+#pragma once
+
+#include "pxli.h"
+
+namespace pxl {
+
+const LibVersion* ownGetLibVersion();
+
+} // namespace pxl

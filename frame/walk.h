@@ -1,0 +1,105 @@
+// The row walker: takes a region and its operands and calls a row kernel.
+//
+// Decided here once, for all families:
+//   - offsets are 64-bit: a row offset can exceed 2^31;
+//   - regions whose operands are all contiguous are walked as one long row;
+//   - overlap: a kernel is called with rows that are disjoint or exactly in place. Where a written operand overlaps another
+//     one in any other way, the kernel is called for one pixel at a time, from left to right, which is the plain loop.
+//
+// A kernel is a callable (ptrdiff_t pixels, pointers...) whose pointers come in the order of the operands. It must load all
+// that a store may overwrite before the store when a source is the destination itself, and must never touch anything behind
+// the last element that it processes in the row.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <tuple>
+#include <utility>
+
+#include "pxli.h"
+
+namespace pxl::PXL_TARGET {
+
+template <class T>
+struct Operand {
+    T* base;
+    ptrdiff_t step;       // bytes between rows
+    ptrdiff_t pixelBytes; // bytes between pixels
+
+    static constexpr bool written = !std::is_const_v<T>;
+
+    T* at(ptrdiff_t x, ptrdiff_t y) const {
+        using Byte = std::conditional_t<written, char, const char>;
+        return reinterpret_cast<T*>(reinterpret_cast<Byte*>(base) + y * step + x * pixelBytes);
+    }
+};
+
+// An operand of `elements` elements per pixel; const T is read, T is written.
+template <class T>
+inline Operand<T> operand(T* base, int step, int elements = 1) {
+    return {base, step, static_cast<ptrdiff_t>(elements * sizeof(T))};
+}
+
+struct Extent {
+    const char* begin;
+    const char* end;
+    bool meets(const Extent& other) const { return begin < other.end && other.begin < end; }
+};
+
+template <class T>
+inline Extent extentOf(const Operand<T>& o, ptrdiff_t width, ptrdiff_t height) {
+    const char* first = reinterpret_cast<const char*>(o.base);
+    const ptrdiff_t span = (height - 1) * o.step;
+    return {first + (span < 0 ? span : 0), first + (span < 0 ? 0 : span) + width * o.pixelBytes};
+}
+
+template <class A, class B>
+inline bool conflict(const Operand<A>& a, const Operand<B>& b, ptrdiff_t width, ptrdiff_t height) {
+    if constexpr (!Operand<A>::written && !Operand<B>::written) return false;
+    const void* pa = a.base;
+    const void* pb = b.base;
+    if (pa == pb && a.step == b.step && a.pixelBytes == b.pixelBytes) return false;
+    return extentOf(a, width, height).meets(extentOf(b, width, height));
+}
+
+template <class A>
+inline bool anyConflict(ptrdiff_t, ptrdiff_t, const A&) {
+    return false;
+}
+
+template <class A, class... Rest>
+inline bool anyConflict(ptrdiff_t width, ptrdiff_t height, const A& a, const Rest&... rest) {
+    return (... || conflict(a, rest, width, height)) || anyConflict(width, height, rest...);
+}
+
+// Whether a row conflicts once every operand stands at row y.
+template <class... T>
+inline bool rowConflict(ptrdiff_t width, ptrdiff_t y, const Operand<T>&... o) {
+    return anyConflict(width, 1, Operand<T>{o.at(0, y), 0, o.pixelBytes}...);
+}
+
+template <class Kernel, class... T>
+inline void walkRows(ptrdiff_t width, ptrdiff_t height, Kernel&& kernel, Operand<T>... o) {
+    const bool apart = !anyConflict(width, height, o...);
+    if (apart && (... && (o.step == width * o.pixelBytes))) {
+        width *= height;
+        height = 1;
+    }
+    for (ptrdiff_t y = 0; y < height; ++y) {
+        const ptrdiff_t run = apart || !rowConflict(width, y, o...) ? width : 1;
+        for (ptrdiff_t x = 0; x < width; x += run) kernel(run, o.at(x, y)...);
+    }
+}
+
+template <class Kernel, class... T>
+inline void walk(ImageSize roi, Kernel&& kernel, Operand<T>... operands) {
+    walkRows(roi.width, roi.height, std::forward<Kernel>(kernel), operands...);
+}
+
+// Channels treated alike: the region is walked as elements, `channels` times as wide.
+template <class Kernel, class... T>
+inline void walkElements(ImageSize roi, int channels, Kernel&& kernel, Operand<T>... operands) {
+    walkRows(static_cast<ptrdiff_t>(roi.width) * channels, roi.height, std::forward<Kernel>(kernel), operands...);
+}
+
+} // namespace pxl::PXL_TARGET
