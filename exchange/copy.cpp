@@ -1,0 +1,62 @@
+// Copies: dst = src, element by element. AC4 forms leave the fourth element of the destination as it is and never read that
+// of the source.
+#include "exchange/group_rows.h"
+#include "frame/checks.h"
+#include "frame/vec.h"
+#include "frame/walk.h"
+#include "pxli.h"
+
+namespace pxl::PXL_TARGET {
+namespace {
+
+// Short rows are copied in line: the call would cost as much as the copy.
+PXL_INLINE void copyBytes(void* d, const void* s, size_t n) {
+    if (n <= 64)
+        copyFew<64>(d, s, n);
+    else
+        std::memmove(d, s, n);
+}
+
+template <class T, int Channels>
+PxlStatus CopyElements(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
+    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
+    if (isEmpty(roi)) return PXL_E_SIZE;
+    const auto row = [](ptrdiff_t n, const T* s, T* d) { copyBytes(d, s, static_cast<size_t>(n) * sizeof(T)); };
+    walkElements(roi, Channels, row, operand(src, srcStep), operand(dst, dstStep));
+    return PXL_OK;
+}
+
+template <class T, GroupForm Form, class Change>
+PxlStatus ownCopyColour(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, Change change) {
+    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
+    if (isEmpty(roi)) return PXL_E_SIZE;
+    const auto row = [&](ptrdiff_t n, const T* s, T* d) { ownChangeRow<T, Form>(n, s, d, change); };
+    walk(roi, row, operand(src, srcStep, Form.srcElements), operand(dst, dstStep, Form.dstElements));
+    return PXL_OK;
+}
+
+template <class T>
+PxlStatus CopyColour(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
+    constexpr GroupForm form{.srcElements = 4, .dstElements = 4, .readsFourth = false, .keepsOld = true};
+    const auto change = [](Vec<T> s, Vec<T> old) { return IfThenElse(colourMask4<T>(), s, old); };
+    return ownCopyColour<T, form>(src, srcStep, dst, dstStep, roi, change);
+}
+
+template <class T>
+PxlStatus CopyToColour(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
+    constexpr GroupForm form{.srcElements = 3, .dstElements = 4, .readsFourth = false, .keepsOld = true};
+    const auto change = [](Vec<T> s, Vec<T> old) { return IfThenElse(colourMask4<T>(), ExpandGroups(s), old); };
+    return ownCopyColour<T, form>(src, srcStep, dst, dstStep, roi, change);
+}
+
+template <class T>
+PxlStatus CopyFromColour(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
+    constexpr GroupForm form{.srcElements = 4, .dstElements = 3, .readsFourth = false, .keepsOld = false};
+    const auto change = [](Vec<T> s, Vec<T>) { return CompressGroups(s); };
+    return ownCopyColour<T, form>(src, srcStep, dst, dstStep, roi, change);
+}
+
+} // namespace
+} // namespace pxl::PXL_TARGET
+
+#include "members/exchange/copy.inc"

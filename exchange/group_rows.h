@@ -1,0 +1,102 @@
+// Rows of pixels whose three or four elements are changed group by group (frame/vec_groups.h), with the source disjoint from
+// the destination or exactly in place.
+#pragma once
+
+#include "frame/vec_groups.h"
+
+namespace pxl::PXL_TARGET {
+
+// What a row of groups reads and writes. A source's fourth element that is not read may lie outside the caller's memory.
+struct GroupForm {
+    int srcElements;
+    int dstElements;
+    bool readsFourth;
+    bool keepsOld; // the change needs what the destination held
+
+    constexpr int srcRead() const { return srcElements == 4 && readsFourth ? 4 : 3; }
+};
+
+// One group in the first block.
+template <class T, int Elements, int Read = Elements>
+PXL_INLINE Vec<T> loadGroup(const T* p) {
+    constexpr int unread = (Elements - Read) * static_cast<int>(sizeof(T)); // of the last pixel
+    return fromInts<T>(fromBlock(loadBlock<4 * Elements - unread>(p)));
+}
+template <int Elements, class T>
+PXL_INLINE void storeGroup(Vec<T> v, T* p) {
+    storeBlock<4 * Elements>(lowerBlock(ints(v)), p);
+}
+
+// Four vectors of groups.
+template <int Elements, class T>
+PXL_INLINE void loadGroups(const T* p, Vec<T> (&v)[4]) {
+    if constexpr (Elements == 3) {
+        LoadGroups3(p, v[0], v[1], v[2], v[3]);
+    } else {
+        for (int i = 0; i < 4; ++i) v[i] = LoadU(p + i * lanes<T>);
+    }
+}
+template <int Elements, class T>
+PXL_INLINE void storeGroups(const Vec<T> (&v)[4], T* p) {
+    if constexpr (Elements == 3) {
+        StoreGroups3(v[0], v[1], v[2], v[3], p);
+    } else {
+        for (int i = 0; i < 4; ++i) StoreU(v[i], p + i * lanes<T>);
+    }
+}
+
+// change(source, old) makes blocks of the destination from blocks of the source; old is what the destination held, where the
+// form keeps any of it.
+template <class T, GroupForm Form, class Change>
+PXL_INLINE void changeGroups(const T* s, T* d, Change change) {
+    Vec<T> v[4];
+    loadGroups<Form.srcElements>(s, v);
+    for (int i = 0; i < 4; ++i) v[i] = change(v[i], Form.keepsOld ? LoadU(d + i * lanes<T>) : Zero<T>());
+    storeGroups<Form.dstElements>(v, d);
+}
+
+template <class T, GroupForm Form, class Change>
+PXL_INLINE void changeGroup(Vec<T> source, T* d, Change change) {
+    Vec<T> old = Zero<T>();
+    if constexpr (Form.keepsOld) old = loadGroup<T, 4>(d);
+    storeGroup<Form.dstElements>(change(source, old), d);
+}
+
+// Fewer pixels than a group.
+template <class T, GroupForm Form, class Change>
+inline void changePixels(ptrdiff_t n, const T* s, T* d, Change change) {
+    for (; n > 0; --n, s += Form.srcElements, d += Form.dstElements) {
+        T source[lanes<T>] = {};
+        T pixel[lanes<T>] = {};
+        std::memcpy(source, s, Form.srcRead() * sizeof(T));
+        if constexpr (Form.keepsOld) std::memcpy(pixel, d, Form.dstElements * sizeof(T));
+        StoreU(change(LoadU(source), LoadU(pixel)), pixel);
+        std::memcpy(d, pixel, Form.dstElements * sizeof(T));
+    }
+}
+
+template <class T, GroupForm Form, class Change>
+PXL_INLINE void ownChangeRow(ptrdiff_t n, const T* s, T* d, Change change) {
+    constexpr int group = groupPixels<T>;
+    constexpr int block = 4 * vecGroups * group;
+    if (n < group) return changePixels<T, Form>(n, s, d, change);
+    const auto source = [&](ptrdiff_t x) {
+        return loadGroup<T, Form.srcElements, Form.srcRead()>(s + x * Form.srcElements);
+    };
+    // The last group, which may share pixels with the one before, is loaded before anything is stored.
+    const Vec<T> last = source(n - group);
+    const ptrdiff_t readable = Form.srcRead() == Form.srcElements ? n : n - 1;
+    const auto changeBlock = [&](ptrdiff_t x) {
+        changeGroups<T, Form>(s + x * Form.srcElements, d + x * Form.dstElements, change);
+    };
+    ptrdiff_t x = 0;
+    for (; x + block <= readable; x += block) changeBlock(x);
+    if (x > 0 && readable - x > 2 * group && s != d) {
+        changeBlock(readable - block);
+        x = readable;
+    }
+    for (; x + group < n; x += group) changeGroup<T, Form>(source(x), d + x * Form.dstElements, change);
+    if (x < n) changeGroup<T, Form>(last, d + (n - group) * Form.dstElements, change);
+}
+
+} // namespace pxl::PXL_TARGET

@@ -1,0 +1,273 @@
+// Mirror: rows in reverse order (axis 0), columns in reverse order (1) or both (2).
+//
+// Pixels move whole, so the work is done on pixels of `Bytes` bytes, whatever their elements are. Of an AC4 pixel only the
+// first `Moved` bytes change places: its alpha is written back with the value it had, and the alpha of the last source pixel
+// of a row, which may lie outside the caller's memory, is not read.
+//
+// The in-place form exchanges two disjoint rows, or the two halves of a row, through a small buffer, so both forms share the
+// row moves. Rows that overlap in any other way are moved pixel by pixel, source rows in ascending order.
+#include "frame/checks.h"
+#include "frame/pixel.h"
+#include "frame/vec.h"
+#include "frame/vec_reverse.h"
+#include "frame/walk.h"
+#include "pxli.h"
+
+namespace pxl::PXL_TARGET {
+namespace {
+
+// The bytes of a register that move: all but the alpha of every pixel.
+template <int Bytes, int Moved>
+struct MovedBytes {
+    alignas(vecBytes) uint8_t mask[vecBytes];
+    constexpr MovedBytes() : mask() {
+        for (int i = 0; i < vecBytes; ++i) mask[i] = i % Bytes < Moved ? 0xFF : 0;
+    }
+};
+
+template <int Bytes, int Moved>
+inline constexpr MovedBytes<Bytes, Moved> movedBytes;
+
+// What is stored at d where v moves there.
+template <int Bytes, int Moved>
+PXL_INLINE Vec<uint8_t> keepingAlpha(Vec<uint8_t> v, const uint8_t* d) {
+    return IfThenElse(LoadU(movedBytes<Bytes, Moved>.mask), v, LoadU(d));
+}
+template <int Bytes, int Moved>
+PXL_INLINE __m128i keepingAlpha(__m128i v, const uint8_t* d) {
+    const auto mask = loadWord<__m128i>(movedBytes<Bytes, Moved>.mask);
+    return _mm_or_si128(_mm_and_si128(mask, v), _mm_andnot_si128(mask, loadWord<__m128i>(d)));
+}
+
+// Fills a run of at least one register with make(x), the register at x. The last one may overlap the one before: the rows
+// are disjoint, so that its bytes come out the same. It is made first, since it could not load what has just been stored
+// without waiting for it.
+template <class Make>
+PXL_INLINE void byRegisters(uint8_t* d, ptrdiff_t bytes, Make&& make) {
+    const Vec<uint8_t> last = make(bytes - vecBytes);
+    ptrdiff_t x = 0;
+    for (; x + 4 * vecBytes <= bytes; x += 4 * vecBytes) {
+        StoreU(make(x), d + x);
+        StoreU(make(x + vecBytes), d + x + vecBytes);
+        StoreU(make(x + 2 * vecBytes), d + x + 2 * vecBytes);
+        StoreU(make(x + 3 * vecBytes), d + x + 3 * vecBytes);
+    }
+    for (; x + vecBytes < bytes; x += vecBytes) StoreU(make(x), d + x);
+    if (x < bytes) StoreU(last, d + bytes - vecBytes);
+}
+
+// The same for one to two words.
+template <class Make>
+PXL_INLINE void byEnds(uint8_t* d, ptrdiff_t bytes, Make&& make) {
+    const auto first = make(0);
+    const auto last = make(bytes - static_cast<ptrdiff_t>(sizeof first));
+    storeWord(first, d);
+    storeWord(last, d + bytes - sizeof last);
+}
+
+// ---- rows as they are --------------------------------------------------------------------------------------------------
+
+PXL_INLINE void copyRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+    if (bytes < vecBytes) return copyFew<vecBytes>(d, s, static_cast<size_t>(bytes));
+    if (bytes > 4096) return static_cast<void>(std::memcpy(d, s, static_cast<size_t>(bytes)));
+    byRegisters(d, bytes, [=](ptrdiff_t x) { return LoadU(s + x); });
+}
+
+// The last pixel is moved by itself.
+template <int Bytes, int Moved>
+PXL_INLINE void copyRowKeepingAlpha(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+    const ptrdiff_t last = bytes - Bytes;
+    if (last >= vecBytes)
+        byRegisters(d, last, [=](ptrdiff_t x) { return keepingAlpha<Bytes, Moved>(LoadU(s + x), d + x); });
+    else if (last >= 16)
+        byEnds(d, last, [=](ptrdiff_t x) { return keepingAlpha<Bytes, Moved>(loadWord<__m128i>(s + x), d + x); });
+    else
+        for (ptrdiff_t x = 0; x < last; x += Bytes) movePixel<Moved>(s + x, d + x);
+    movePixel<Moved>(s + last, d + last);
+}
+
+// ---- rows with their pixels in reverse order ---------------------------------------------------------------------------
+
+template <int Bytes>
+PXL_INLINE void reverseRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+    const uint8_t* end = s + bytes;
+    if (bytes >= vecBytes)
+        return byRegisters(d, bytes, [=](ptrdiff_t x) { return LoadReversed<Bytes>(end - vecBytes - x); });
+    if constexpr (isAvx2)
+        if (bytes >= 16)
+            return byEnds(d, bytes, [=](ptrdiff_t x) { return reverseBlocks<Bytes>(loadWord<__m128i>(end - 16 - x)); });
+    if constexpr (Bytes < 8)
+        if (bytes >= 8) return byEnds(d, bytes, [=](ptrdiff_t x) { return loadReversed8<Bytes>(end - 8 - x); });
+    for (ptrdiff_t x = 0; x < bytes; x += Bytes) movePixel<Bytes>(end - Bytes - x, d + x);
+}
+
+// The first pixel is moved by itself, since behind it in the source there may be nothing to load.
+template <int Bytes, int Moved>
+PXL_INLINE void reverseRowKeepingAlpha(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+    const uint8_t* end = s + bytes - Bytes;
+    movePixel<Moved>(end, d);
+    d += Bytes;
+    bytes -= Bytes;
+    if (bytes >= vecBytes)
+        return byRegisters(d, bytes, [=](ptrdiff_t x) {
+            return keepingAlpha<Bytes, Moved>(LoadReversed<Bytes>(end - vecBytes - x), d + x);
+        });
+    if (bytes >= 16)
+        return byEnds(d, bytes, [=](ptrdiff_t x) {
+            return keepingAlpha<Bytes, Moved>(reverseBlocks<Bytes>(loadWord<__m128i>(end - 16 - x)), d + x);
+        });
+    for (ptrdiff_t x = 0; x < bytes; x += Bytes) movePixel<Moved>(end - Bytes - x, d + x);
+}
+
+// Pixels of 3, 6 and 12 bytes.
+template <int Bytes>
+PXL_INLINE void reverseRowOfThrees(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+    const uint8_t* end = s + bytes;
+    ptrdiff_t x = 0;
+#ifdef __AVX2__
+    if (bytes >= 96) {
+        for (; x + 96 <= bytes; x += 96) storeReversed96<Bytes>(end - x - 96, d + x);
+        if (x < bytes) storeReversed96<Bytes>(s, d + bytes - 96);
+        return;
+    }
+    if constexpr (Bytes < 12)
+        for (; x + 16 <= bytes; x += 16 / Bytes * Bytes) storeReversed16<Bytes>(end - x - 16, d + x);
+#endif
+    constexpr ptrdiff_t word = sizeof(typename PixelWord<Bytes>::type);
+    for (; x + word <= bytes; x += Bytes) storePixelWord<Bytes>(end - x - word, d + x);
+    for (; x < bytes; x += Bytes) movePixel<Bytes>(end - x - Bytes, d + x);
+}
+
+// ---- regions -----------------------------------------------------------------------------------------------------------
+
+// Rows that are moved alike; no destination row meets a source row.
+struct Rows {
+    const uint8_t* s;
+    ptrdiff_t srcStep;
+    uint8_t* d;
+    ptrdiff_t dstStep;
+    ptrdiff_t bytes;
+    ptrdiff_t count;
+};
+using MoveRows = void (*)(const Rows&);
+
+template <void (*Row)(const uint8_t*, uint8_t*, ptrdiff_t)>
+void eachRow(const Rows& rows) {
+    const uint8_t* s = rows.s;
+    uint8_t* d = rows.d;
+    for (ptrdiff_t y = 0; y < rows.count; ++y, s += rows.srcStep, d += rows.dstStep) Row(s, d, rows.bytes);
+}
+
+template <int Bytes, int Moved>
+MoveRows moveRows(bool reversed) {
+    if constexpr (Moved < Bytes)
+        return reversed ? eachRow<reverseRowKeepingAlpha<Bytes, Moved>> : eachRow<copyRowKeepingAlpha<Bytes, Moved>>;
+    else if constexpr (Bytes % 3 == 0)
+        return reversed ? eachRow<reverseRowOfThrees<Bytes>> : eachRow<copyRow>;
+    else
+        return reversed ? eachRow<reverseRow<Bytes>> : eachRow<copyRow>;
+}
+
+bool meet(const uint8_t* a, const uint8_t* b, ptrdiff_t bytes) {
+    const auto extent = [bytes](const uint8_t* p) {
+        return Extent{reinterpret_cast<const char*>(p), reinterpret_cast<const char*>(p + bytes)};
+    };
+    return extent(a).meets(extent(b));
+}
+
+template <int Bytes, int Moved>
+void moveOverlapping(const uint8_t* s, uint8_t* d, ptrdiff_t width, bool reversed) {
+    for (ptrdiff_t x = 0; x < width; ++x) movePixel<Moved>(s + (reversed ? width - 1 - x : x) * Bytes, d + x * Bytes);
+}
+
+template <int Bytes, int Moved>
+void mirror(Operand<const uint8_t> src, Operand<uint8_t> dst, ImageSize roi, PxlAxis flip) {
+    const bool reversed = flip != PXL_AXIS_HORIZONTAL;
+    const MoveRows move = moveRows<Bytes, Moved>(reversed);
+    if (flip != PXL_AXIS_VERTICAL) dst = {dst.at(0, roi.height - 1), -dst.step, dst.pixelBytes};
+    const ptrdiff_t bytes = static_cast<ptrdiff_t>(roi.width) * Bytes;
+    if (!extentOf(src, roi.width, roi.height).meets(extentOf(dst, roi.width, roi.height)))
+        return move({src.base, src.step, dst.base, dst.step, bytes, roi.height});
+    for (ptrdiff_t y = 0; y < roi.height; ++y) {
+        const uint8_t* s = src.at(0, y);
+        uint8_t* d = dst.at(0, y);
+        if (meet(s, d, bytes))
+            moveOverlapping<Bytes, Moved>(s, d, roi.width, reversed);
+        else
+            move({s, 0, d, 0, bytes, 1});
+    }
+}
+
+// Exchanges two disjoint rows, or halves of one. Reversed, the beginning of one meets the end of the other.
+void exchange(uint8_t* a, uint8_t* b, ptrdiff_t bytes, MoveRows move, bool reversed) {
+    constexpr ptrdiff_t chunk = 480; // whole pixels of every size
+    alignas(vecBytes) uint8_t held[chunk];
+    for (ptrdiff_t n; bytes > 0; bytes -= n, a += n) {
+        n = bytes < chunk ? bytes : chunk;
+        uint8_t* other = reversed ? b + bytes - n : b;
+        copyRow(a, held, n);
+        move({other, 0, a, 0, n, 1});
+        move({held, 0, other, 0, n, 1});
+        if (!reversed) b += n;
+    }
+}
+
+template <int Bytes, int Moved>
+void exchangeOverlapping(uint8_t* a, uint8_t* b, ptrdiff_t width, bool reversed) {
+    for (ptrdiff_t x = 0; x < width; ++x)
+        exchangePixels<Moved>(a + x * Bytes, b + (reversed ? width - 1 - x : x) * Bytes);
+}
+
+template <int Bytes, int Moved>
+void mirrorInPlace(Operand<uint8_t> image, ImageSize roi, PxlAxis flip) {
+    const bool reversed = flip != PXL_AXIS_HORIZONTAL;
+    const MoveRows move = moveRows<Bytes, Moved>(reversed);
+    const ptrdiff_t bytes = static_cast<ptrdiff_t>(roi.width) * Bytes;
+    const ptrdiff_t half = roi.width / 2 * static_cast<ptrdiff_t>(Bytes);
+    const auto reverseHalves = [&](uint8_t* row) { exchange(row, row + bytes - half, half, move, true); };
+    if (flip == PXL_AXIS_VERTICAL) {
+        for (ptrdiff_t y = 0; y < roi.height; ++y) reverseHalves(image.at(0, y));
+        return;
+    }
+    for (ptrdiff_t y = 0; y < roi.height / 2; ++y) {
+        uint8_t* a = image.at(0, y);
+        uint8_t* b = image.at(0, roi.height - 1 - y);
+        if (meet(a, b, bytes))
+            exchangeOverlapping<Bytes, Moved>(a, b, roi.width, reversed);
+        else
+            exchange(a, b, bytes, move, reversed);
+    }
+    if (reversed && roi.height % 2) reverseHalves(image.at(0, roi.height / 2));
+}
+
+// ---- entries -----------------------------------------------------------------------------------------------------------
+
+bool isAxis(PxlAxis flip) {
+    return flip == PXL_AXIS_HORIZONTAL || flip == PXL_AXIS_VERTICAL || flip == PXL_AXIS_BOTH;
+}
+
+template <class T, int Elements, int Channels>
+PxlStatus Mirror(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, PxlAxis flip) {
+    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
+    if (isEmpty(roi)) return PXL_E_SIZE;
+    if (!isAxis(flip)) return PXL_E_MIRROR_AXIS;
+    constexpr int pixel = Elements * sizeof(T);
+    mirror<pixel, Channels * sizeof(T)>(operand(reinterpret_cast<const uint8_t*>(src), srcStep, pixel),
+                                        operand(reinterpret_cast<uint8_t*>(dst), dstStep, pixel), roi, flip);
+    return PXL_OK;
+}
+
+template <class T, int Elements, int Channels>
+PxlStatus MirrorInPlace(T* srcDst, int step, ImageSize roi, PxlAxis flip) {
+    if (anyNull(srcDst)) return PXL_E_NULL_PTR;
+    if (isEmpty(roi)) return PXL_E_SIZE;
+    if (!isAxis(flip)) return PXL_E_MIRROR_AXIS;
+    constexpr int pixel = Elements * sizeof(T);
+    mirrorInPlace<pixel, Channels * sizeof(T)>(operand(reinterpret_cast<uint8_t*>(srcDst), step, pixel), roi, flip);
+    return PXL_OK;
+}
+
+} // namespace
+} // namespace pxl::PXL_TARGET
+
+#include "members/exchange/mirror.inc"

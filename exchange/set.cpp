@@ -1,0 +1,113 @@
+// Fills: every pixel, or every chosen channel, of a region receives the same value.
+//
+// The kernels see pixels of E bytes, whatever their elements are, and fill with patterns of them. Where a fourth element or
+// other channels keep their value, whole registers are rewritten with what they held.
+#include "exchange/masked_row.h"
+#include "frame/checks.h"
+#include "frame/vec.h"
+#include "frame/vec_pattern.h"
+#include "frame/walk.h"
+#include "pxli.h"
+
+namespace pxl::PXL_TARGET {
+namespace {
+
+template <class T>
+PXL_INLINE uint8_t* bytesOf(T* p) {
+    return reinterpret_cast<uint8_t*>(p);
+}
+
+template <int E>
+PxlStatus setPixels(const void* value, uint8_t* dst, int dstStep, ImageSize roi) {
+    if (anyNull(dst, value)) return PXL_E_NULL_PTR;
+    if (isEmpty(roi)) return PXL_E_SIZE;
+    const Pattern<E> pattern = patternOf<E>(value);
+    walk(roi, [&](ptrdiff_t n, uint8_t* d) { fillPixels(d, n * E, pattern); }, operand(dst, dstStep, E));
+    return PXL_OK;
+}
+
+template <class T, int Elements>
+PxlStatus SetElements(const T* value, T* dst, int dstStep, ImageSize roi) {
+    return setPixels<Elements * sizeof(T)>(value, bytesOf(dst), dstStep, roi);
+}
+template <class T, int Elements>
+PxlStatus SetElements(T value, T* dst, int dstStep, ImageSize roi) {
+    return setPixels<sizeof(T)>(&value, bytesOf(dst), dstStep, roi);
+}
+
+// The three values of an AC4 pixel, and zeros for the fourth element.
+template <class T>
+PXL_INLINE Pattern<4 * sizeof(T)> colourPattern(const T* value) {
+    const T pixel[4] = {load1(value), load1(value + 1), load1(value + 2), 0};
+    return patternOf<4 * sizeof(T)>(pixel);
+}
+template <class T>
+PXL_INLINE Pattern<4 * sizeof(T)> alphaPattern() {
+    return maskPattern<4 * sizeof(T), 3 * sizeof(T), 4 * sizeof(T)>();
+}
+
+template <class T>
+PxlStatus SetColour(const T* value, T* dst, int dstStep, ImageSize roi) {
+    if (anyNull(dst, value)) return PXL_E_NULL_PTR;
+    if (isEmpty(roi)) return PXL_E_SIZE;
+    constexpr int E = 4 * sizeof(T);
+    const Pattern<E> colour = colourPattern(value);
+    const auto row = [&](ptrdiff_t n, uint8_t* d) { fillPixels(d, n * E, colour, alphaPattern<T>()); };
+    walk(roi, row, operand(bytesOf(dst), dstStep, E));
+    return PXL_OK;
+}
+
+// The pointer stands at the chosen channel, so the last pixel of a row may end right behind it.
+template <class T, int Elements>
+PxlStatus SetChannel(T value, T* dst, int dstStep, ImageSize roi) {
+    if (anyNull(dst)) return PXL_E_NULL_PTR;
+    if (isEmpty(roi)) return PXL_E_SIZE;
+    constexpr int E = Elements * sizeof(T);
+    const T pixel[Elements] = {value};
+    const Pattern<E> channel = patternOf<E>(pixel);
+    const auto row = [&](ptrdiff_t n, uint8_t* d) {
+        const ptrdiff_t before = (n - 1) * E;
+        fillPixels(d, before, channel, maskPattern<E, sizeof(T), E>());
+        put(d + before, value);
+    };
+    walk(roi, row, operand(bytesOf(dst), dstStep, E));
+    return PXL_OK;
+}
+
+template <int E, class... Always>
+PxlStatus setMasked(const Pattern<E>& value, uint8_t* dst, int dstStep, ImageSize roi, const uint8_t* mask,
+                    int maskStep, const Always&... always) {
+    const PatternSource<E> source{value};
+    const auto row = [&](ptrdiff_t n, uint8_t* d, const uint8_t* m) { blendRow<E>(n, m, d, source, always...); };
+    walk(roi, row, operand(dst, dstStep, E), operand(mask, maskStep));
+    return PXL_OK;
+}
+
+template <int E>
+PxlStatus setMaskedPixels(const void* value, uint8_t* dst, int dstStep, ImageSize roi, const uint8_t* mask,
+                          int maskStep) {
+    if (!dst || !value || !mask) return PXL_E_NULL_PTR;
+    if (isEmpty(roi)) return PXL_E_SIZE;
+    return setMasked<E>(patternOf<E>(value), dst, dstStep, roi, mask, maskStep);
+}
+
+template <class T, int Elements>
+PxlStatus SetMasked(const T* value, T* dst, int dstStep, ImageSize roi, const uint8_t* mask, int maskStep) {
+    return setMaskedPixels<Elements * sizeof(T)>(value, bytesOf(dst), dstStep, roi, mask, maskStep);
+}
+template <class T, int Elements>
+PxlStatus SetMasked(T value, T* dst, int dstStep, ImageSize roi, const uint8_t* mask, int maskStep) {
+    return setMaskedPixels<sizeof(T)>(&value, bytesOf(dst), dstStep, roi, mask, maskStep);
+}
+
+template <class T>
+PxlStatus SetColourMasked(const T* value, T* dst, int dstStep, ImageSize roi, const uint8_t* mask, int maskStep) {
+    if (anyNull(dst, value, mask)) return PXL_E_NULL_PTR;
+    if (isEmpty(roi)) return PXL_E_SIZE;
+    return setMasked(colourPattern(value), bytesOf(dst), dstStep, roi, mask, maskStep, alphaPattern<T>());
+}
+
+} // namespace
+} // namespace pxl::PXL_TARGET
+
+#include "members/exchange/set.inc"
