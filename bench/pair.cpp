@@ -1,0 +1,166 @@
+// The images behind the benchmark pairs, the comparison of the two results, and the program's entry.
+#include "pair.h"
+
+#include <cstring>
+#include <fstream>
+#include <iostream>
+#include <map>
+#include <tuple>
+
+namespace pxlbench {
+namespace {
+
+int failedRows = 0;
+
+// Whole range of the integer types; 32f values straddle 0..255, so that conversions to 8u saturate at both ends.
+void fillRandom(cv::Mat& image, uint64_t seed) {
+    static const std::map<int, std::pair<double, double>> ranges = {
+        {CV_8U, {0, 256}}, {CV_16U, {0, 65536}}, {CV_16S, {-32768, 32768}}, {CV_32S, {-1e9, 1e9}}, {CV_32F, {-64, 320}},
+    };
+    const auto [low, high] = ranges.at(image.depth());
+    cv::RNG(seed).fill(image, cv::RNG::UNIFORM, cv::Scalar::all(low), cv::Scalar::all(high));
+}
+
+cv::Mat allocate(int type, Shape shape, bool strided) {
+    if (!strided) return cv::Mat(shape.height, shape.width, type);
+    const cv::Mat whole(shape.height + 4, shape.width + 32, type);
+    return whole(cv::Rect(3, 2, shape.width, shape.height));
+}
+
+// One image per role ('s', 'd' or 'm', and its number), type and shape, kept to the end of the program.
+cv::Mat pooled(char role, size_t number, int type, Shape shape, bool strided) {
+    static std::map<std::tuple<char, size_t, int, int, int, bool>, cv::Mat> pool;
+    cv::Mat& image = pool[{role, number, type, shape.width, shape.height, strided}];
+    if (image.empty()) {
+        image = allocate(type, shape, strided);
+        fillRandom(image, static_cast<uint64_t>(role) * 16 + number);
+        if (role == 'm') cv::compare(image, 127, image, cv::CMP_GT);
+    }
+    return image;
+}
+
+Shape destinationShape(const Operands& operands, Shape shape) {
+    if (operands.transposed) return {shape.height, shape.width};
+    return {shape.width + 2 * operands.margin, shape.height + 2 * operands.margin};
+}
+
+void refill(std::vector<cv::Mat>& images) {
+    for (size_t i = 0; i < images.size(); ++i)
+        fillRandom(images[i], 1000 + i);
+}
+
+bool same(const cv::Mat& a, const cv::Mat& b, double tolerance) {
+    if (tolerance > 0) return cv::norm(a, b, cv::NORM_INF) <= tolerance;
+    return cv::countNonZero(a.reshape(1) != b.reshape(1)) == 0;
+}
+
+// Empty when both sides give the same result from the same start, otherwise what is wrong.
+std::string disagreement(const Operands& operands, Frame& frame, const std::function<int()>& ours,
+                         const std::function<void()>& peer) {
+    refill(frame.dst);
+    if (const int status = ours()) return "status " + std::to_string(status);
+    if (!peer) return "";
+    std::vector<cv::Mat> results;
+    std::vector<uchar*> places;
+    for (const cv::Mat& image : frame.dst) {
+        results.push_back(image.clone());
+        places.push_back(image.data);
+    }
+    refill(frame.dst);
+    peer();
+    for (size_t i = 0; i < results.size(); ++i) {
+        // A peer that allocates its result anew would be charged for that, and leave the shared images.
+        if (frame.dst[i].data != places[i]) return "the peer replaced its destination";
+        if (!same(results[i], frame.dst[i], operands.tolerance)) return "the results differ";
+    }
+    return "";
+}
+
+std::string cpuModel() {
+    std::ifstream file("/proc/cpuinfo");
+    for (std::string line; std::getline(file, line);)
+        if (line.starts_with("model name")) return line.substr(line.find(':') + 2);
+    return "unknown";
+}
+
+// As a shell would take it back: an argument with a character of the filter's syntax is quoted.
+std::string commandLine(int argc, char** argv) {
+    std::string text;
+    for (int i = 0; i < argc; ++i) {
+        const std::string argument = argv[i];
+        const bool plain = argument.find_first_of(" *|()[]?$^\\;&<>") == std::string::npos;
+        text += (i ? " " : "") + (plain ? argument : "'" + argument + "'");
+    }
+    return text;
+}
+
+} // namespace
+
+Frame::Frame(const Operands& operands, Shape shape) : size{shape.width, shape.height} {
+    for (int type : operands.src)
+        src.push_back(pooled('s', src.size(), type, shape, operands.strided));
+    for (int type : operands.dst)
+        dst.push_back(pooled('d', dst.size(), type, destinationShape(operands, shape), operands.strided));
+    if (operands.mask) mask = pooled('m', 0, CV_8UC1, shape, operands.strided);
+}
+
+int64_t Frame::bytes() const {
+    size_t sum = mask.total();
+    for (const auto* images : {&src, &dst})
+        for (const cv::Mat& image : *images)
+            sum += image.total() * image.elemSize();
+    return static_cast<int64_t>(sum);
+}
+
+std::string benchmarkName(const std::string& row, const char* side, Shape shape) {
+    return row + "/" + side + "/" + std::to_string(shape.width) + "x" + std::to_string(shape.height);
+}
+
+void addFloor(const std::string& row, const Operands& operands, Shape shape) {
+    const bool copies = operands.floor == Floor::Memcpy;
+    auto body = [=](benchmark::State& state) {
+        Frame frame(operands, shape);
+        const auto count = static_cast<size_t>(frame.bytes()) / (copies ? 2 : 1);
+        const Shape line{static_cast<int>(count), 1};
+        const cv::Mat from = pooled('s', 0, CV_8UC1, line, false);
+        cv::Mat to = pooled('d', 0, CV_8UC1, line, false);
+        if (copies)
+            timeCalls(state, frame, [&](Frame&) { std::memcpy(to.data, from.data, count); });
+        else
+            timeCalls(state, frame, [&](Frame&) { std::memset(to.data, 77, count); });
+    };
+    benchmark::RegisterBenchmark(benchmarkName(row, copies ? "memcpy" : "memset", shape).c_str(), body);
+}
+
+bool verified(benchmark::State& state, const std::string& row, const Operands& operands, Frame& frame,
+              const std::function<int()>& ours, const std::function<void()>& peer) {
+    static std::map<std::string, std::string> outcomes;
+    const std::string key = benchmarkName(row, "check", {frame.size.width, frame.size.height});
+    auto known = outcomes.find(key);
+    if (known == outcomes.end()) {
+        known = outcomes.emplace(key, disagreement(operands, frame, ours, peer)).first;
+        if (!known->second.empty()) {
+            ++failedRows;
+            std::cerr << key << ": " << known->second << "\n";
+        }
+    }
+    if (!known->second.empty()) state.SkipWithError(known->second.c_str());
+    return known->second.empty();
+}
+
+int failures() { return failedRows; }
+
+} // namespace pxlbench
+
+int main(int argc, char** argv) {
+    cv::setNumThreads(1);
+    benchmark::AddCustomContext("cpu", pxlbench::cpuModel());
+    benchmark::AddCustomContext("compiler", "g++ " __VERSION__);
+    benchmark::AddCustomContext("opencv", CV_VERSION);
+    benchmark::AddCustomContext("command", pxlbench::commandLine(argc, argv));
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return pxlbench::failures() ? 1 : 0;
+}

@@ -1,0 +1,170 @@
+#!/usr/bin/env python3
+"""Runs pxl_bench and prints its pairs as Markdown tables, one per subject.
+
+    bench/report.py                                    all rows, build/bench/bench/pxl_bench
+    bench/report.py --filter 'copy_.*/640x480' --min-time 0.2
+    bench/report.py --from results.json                tables of an earlier run
+
+Every number is the median of the repetitions of one interleaved run. Exit status 1: a row failed its check.
+"""
+
+import argparse
+import json
+import pathlib
+import subprocess
+import sys
+from collections import defaultdict
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+LEVEL = 0.97  # a ratio below this, noise allowed for, is behind the peer
+TINY_NS = 25  # what a call on 8x8 may cost
+FLOORS = ("memcpy", "memset")
+TITLES = {
+    "copy": "Copy",
+    "set": "Set",
+    "split": "Interleaved to planes",
+    "merge": "Planes to interleaved",
+    "extract": "Extract a channel",
+    "insert": "Insert a channel",
+    "swap": "Channel order",
+    "convert": "Convert",
+    "scale": "Scale",
+    "border": "Border extension",
+    "flip": "Mirror",
+    "transpose": "Transpose",
+}
+
+
+def arguments():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("binary", type=pathlib.Path, nargs="?", default=ROOT / "build/bench/bench/pxl_bench")
+    parser.add_argument("--filter", default="", help="regular expression on benchmark names (row/side/size)")
+    parser.add_argument("--min-time", type=float, default=0.05, help="seconds per repetition (default 0.05)")
+    parser.add_argument("--repetitions", type=int, default=5)
+    parser.add_argument("--json", type=pathlib.Path, help="where the raw results go (default: beside the binary)")
+    parser.add_argument("--from", dest="source", type=pathlib.Path, help="read these results instead of running")
+    return parser.parse_args()
+
+
+def from_root(path):
+    """The path as typed at the root of the tree, so that the command in the report works on any checkout."""
+    path = path.resolve()
+    return f"./{path.relative_to(ROOT)}" if path.is_relative_to(ROOT) else str(path)
+
+
+def run(options):
+    """Runs the benchmarks in random order and returns the results file and whether every check passed."""
+    results = options.json or options.binary.with_name("results.json")
+    command = [
+        from_root(options.binary),
+        "--benchmark_enable_random_interleaving=true",
+        f"--benchmark_repetitions={options.repetitions}",
+        f"--benchmark_min_time={options.min_time}",
+        "--benchmark_report_aggregates_only=true",
+        f"--benchmark_out={from_root(results)}",
+        "--benchmark_out_format=json",
+    ]
+    if options.filter:
+        command.append(f"--benchmark_filter={options.filter}")
+    done = subprocess.run(command, stdout=sys.stderr, cwd=ROOT)
+    if done.returncode not in (0, 1):
+        sys.exit(f"{options.binary} ended with status {done.returncode}")
+    return results, done.returncode == 0
+
+
+def medians(benchmarks):
+    """{(row, size): {side: benchmark}}, in the order of the program: interleaved runs are written as they finish."""
+    rows = defaultdict(dict)
+    for entry in sorted(benchmarks, key=lambda entry: entry["family_index"]):
+        if entry.get("aggregate_name") == "median":
+            row, side, size = entry["run_name"].split("/")
+            rows[row, size][side] = entry
+    return rows
+
+
+def head(context):
+    yield f"- CPU: {context['cpu']}, {context['num_cpus']} cores at {context['mhz_per_cpu']} MHz"
+    yield f"- Compiler: {context['compiler']}"
+    yield f"- Peer: OpenCV {context['opencv']}, one thread"
+    yield f"- Date: {context['date'][:10]}"
+    yield f"- Command: `{context['command']}`"
+    yield ""
+    yield (
+        "Medians. MPix/s counts destination pixels; GB/s is the size of all operands, read and written, over time. "
+        "The last column is our share of the rate of a memcpy (for set: memset) that moves as many bytes. "
+        f"Ratios below {LEVEL} are in bold."
+    )
+
+
+def rate(entry):
+    return f"{entry['items_per_second'] / 1e6:.0f}"
+
+
+def pair_line(row, size, sides):
+    """One table line, or None when the run holds no number of ours for it (filtered out, or failed its check)."""
+    ours, peer = sides.get("pxl"), sides.get("opencv")
+    if not ours:
+        return None
+    floor = next((sides[name] for name in FLOORS if name in sides), None)
+    share = f"{ours['bytes_per_second'] / floor['bytes_per_second']:.0%}" if floor else ""
+    ratio = f"{ratio_of(sides):.2f}" if peer else ""
+    if behind(sides):
+        ratio = f"**{ratio}**"
+    cells = [row, size, rate(ours), rate(peer) if peer else "", ratio, f"{ours['bytes_per_second'] / 1e9:.1f}", share]
+    return "| " + " | ".join(cells) + " |"
+
+
+def ratio_of(sides):
+    return sides["pxl"]["items_per_second"] / sides["opencv"]["items_per_second"]
+
+
+def behind(sides):
+    return "pxl" in sides and "opencv" in sides and ratio_of(sides) < LEVEL
+
+
+def pair_tables(rows):
+    subjects = defaultdict(list)
+    for (row, size), sides in rows.items():
+        if line := pair_line(row, size, sides):
+            subjects[row.split("_")[0]].append(line)
+    # Subjects without a title of their own, as those of later programs, are called by their prefix.
+    order = [name for name in TITLES if name in subjects] + [name for name in subjects if name not in TITLES]
+    for subject in order:
+        yield f"\n### {TITLES.get(subject, subject.capitalize())}\n"
+        yield "| row | size | ours MPix/s | OpenCV MPix/s | ratio | ours GB/s | of memcpy |"
+        yield "|---|---|---:|---:|---:|---:|---:|"
+        yield from subjects[subject]
+
+
+def tiny_table(rows):
+    yield f"\n### Calls on 8x8\n\nCalls of {TINY_NS} ns and more are in bold.\n"
+    yield "| row | ns per call |"
+    yield "|---|---:|"
+    for (row, _), sides in rows.items():
+        time = f"{sides['pxl']['cpu_time']:.1f}"
+        yield f"| {row.removeprefix('tiny_')} | {f'**{time}**' if sides['pxl']['cpu_time'] >= TINY_NS else time} |"
+
+
+def report(results):
+    rows = medians(results["benchmarks"])
+    tiny = {key: sides for key, sides in rows.items() if key[0].startswith("tiny_")}
+    pairs = {key: sides for key, sides in rows.items() if key not in tiny}
+    yield from head(results["context"])
+    yield from pair_tables(pairs)
+    if tiny:
+        yield from tiny_table(tiny)
+    compared = [key for key, sides in pairs.items() if "pxl" in sides and "opencv" in sides]
+    slow = [key for key in compared if behind(pairs[key])]
+    yield f"\n{len(slow)} of {len(compared)} compared rows are below {LEVEL}."
+
+
+def main():
+    options = arguments()
+    path, passed = (options.source, True) if options.source else run(options)
+    print("\n".join(report(json.loads(path.read_text()))))
+    if not passed:
+        sys.exit("some rows failed their check and are missing from the tables; see the messages above")
+
+
+if __name__ == "__main__":
+    main()
