@@ -187,4 +187,5 @@ def _array(kind, rest, member):
         return Param(ctype, name, "Result", f"[{channels}]", count=channels)
     if kind == "tables":
         return Param(f"const {ctype}* const", name, "Tables", f"[{channels}]", count=channels)
-    return Param(f"const {ctype}*", name or "kernel", "Table")
+    codes = {"int32_t": "32s", "float": "32f", "double": "64f"}
+    return Param(f"const {ctype}*", name or "kernel", "Table", element=codes.get(ctype, ""))

@@ -1,30 +1,21 @@
 // Border extension: a source region copied into a larger destination region, and the margin around it filled.
 //
-// Destination pixel (X, Y) stands for source pixel (x, y) = (X - left, Y - top). Outside the source it receives the constant,
-// the nearest source pixel, or the source pixel at the coordinates modulo the source size.
+// Destination pixel (X, Y) stands for source pixel (x, y) = (X - left, Y - top). Outside the source it receives the
+// constant, the nearest source pixel, or the source pixel at the coordinates modulo the source size.
 //
-// Rows of disjoint images are built from runs: the left margin, the source row, the right margin; the rows above and below are
-// copies of rows that stand already. Where the destination overlaps the source, or its rows overlap each other because the
-// step is small, the plain loop over pixels defines the result. In place the source lies inside the destination and is not
-// moved.
+// Rows of disjoint images are built from runs: the source row and the margins beside it; the rows above and below are
+// filled, or copied from rows that stand already. Where the destination overlaps the source, or its rows overlap each
+// other because the step is small, the plain loop over pixels defines the result. In place the source lies inside the
+// destination and is not moved.
 #include "frame/checks.h"
 #include "frame/vec.h"
+#include "frame/vec_mask.h"
 #include "frame/vec_pattern.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
 namespace pxl::PXL_TARGET {
 namespace {
-
-// Pixels of Bytes bytes, of which the first Moved are processed: all but the fourth element of AC4.
-template <int Bytes, int Moved>
-struct Pixel {
-    static constexpr int bytes = Bytes;
-    static constexpr int moved = Moved;
-    static constexpr bool whole = Bytes == Moved;
-};
-template <class T, int Elements, int Channels>
-using PixelOf = Pixel<Elements * sizeof(T), Channels * sizeof(T)>;
 
 struct Borders {
     ptrdiff_t top, left;
@@ -36,119 +27,254 @@ struct Borders {
           outHeight(dst.height) {}
 
     ptrdiff_t right() const { return outWidth - left - width; }
-    bool valid() const {
+    bool isValid() const {
         return width >= 1 && height >= 1 && outWidth >= 1 && outHeight >= 1 && top >= 0 && left >= 0 &&
                outWidth >= left + width && outHeight >= top + height;
     }
+    bool isInside(ptrdiff_t x, ptrdiff_t y) const { return x >= 0 && x < width && y >= 0 && y < height; }
 };
 
 using Source = Operand<const uint8_t>;
 using Destination = Operand<uint8_t>;
 
-template <class P, class T>
-Source sourceOf(const T* src, int step) {
-    return operand(reinterpret_cast<const uint8_t*>(src), step, P::bytes);
-}
-template <class P, class T>
-Destination destinationOf(T* dst, int step) {
-    return operand(reinterpret_cast<uint8_t*>(dst), step, P::bytes);
-}
+// What differs with the layout of pixels: the bytes of a pixel that are processed, and how a run of pixels is copied
+// that does not overlap its copy.
+using CopyRun = void(const uint8_t* s, uint8_t* d, ptrdiff_t bytes);
+struct Layout {
+    int processed;
+    CopyRun* copyRun;
+};
 
-// ---- runs of pixels --------------------------------------------------------------------------------------------------------
+// Some rows of the source, and where the first pixel of each goes in the destination: in place they are the same.
+struct Rows {
+    Source src;
+    Destination dst;
+    ptrdiff_t count;
+};
 
-template <class P>
-PXL_INLINE void copyPixel(const uint8_t* s, uint8_t* d) {
-    uint8_t pixel[P::moved];
-    std::memcpy(pixel, s, sizeof pixel);
-    std::memcpy(d, pixel, sizeof pixel);
+// Makes rows: copies the source pixels and fills the margins left and right of them.
+using MakeRows = void(const Rows& rows, const Borders& b, const void* pattern);
+
+// ---- runs of pixels -------------------------------------------------------------------------------------------------
+
+// Short rows in line: the call would cost as much as the copy. The last register may overlap the one before.
+PXL_INLINE void copyBytesInline(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+    if (bytes < vecBytes) return copyFew<vecBytes>(d, s, static_cast<size_t>(bytes));
+    if (bytes > 8 * vecBytes) {
+        std::memcpy(d, s, static_cast<size_t>(bytes));
+        return;
+    }
+    for (ptrdiff_t o = 0; o < bytes - vecBytes; o += vecBytes)
+        StoreU(LoadU(s + o), d + o);
+    StoreU(LoadU(s + bytes - vecBytes), d + bytes - vecBytes);
 }
+void copyBytes(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) { copyBytesInline(s, d, bytes); }
 
-// The pixel at s repeated, with zeros for a fourth element that is not processed (nor read).
-template <class P>
-PXL_INLINE Pattern<P::bytes> pixelPattern(const uint8_t* s) {
-    if constexpr (P::whole) return patternOf<P::bytes>(s);
-    uint8_t pixel[P::bytes] = {};
-    copyPixel<P>(s, pixel);
-    return patternOf<P::bytes>(pixel);
-}
-
-template <class P>
-PXL_INLINE void fillRun(uint8_t* d, ptrdiff_t n, const Pattern<P::bytes>& pixel) {
-    if constexpr (P::whole) fillPixels(d, n * P::bytes, pixel);
-    else fillPixels(d, n * P::bytes, pixel, maskPattern<P::bytes, P::moved, P::bytes>());
-}
-
-// AC4 pixels. The last one is copied alone, since its source need not have a fourth element.
-template <class P>
-void copyColours(const uint8_t* s, uint8_t* d, ptrdiff_t n) {
-    const Vec<uint8_t> alpha = maskPattern<P::bytes, P::moved, P::bytes>().v[0];
-    const ptrdiff_t last = (n - 1) * P::bytes;
+// AC4 pixels. The last one is copied alone, since its source need not have a fourth element; those before it in vectors
+// and then in pieces, the largest first.
+template <int Bytes>
+void copyColours(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+    const Vec<uint8_t> alpha = alphaPattern<Bytes>().v[0];
+    const ptrdiff_t last = bytes - Bytes;
     ptrdiff_t o = 0;
-    for (; o + vecBytes <= last; o += vecBytes) put(d + o, AndNot(alpha, LoadU(s + o)), alpha);
-    for (; o <= last; o += P::bytes) copyPixel<P>(s + o, d + o);
+    for (; o + vecBytes <= last; o += vecBytes)
+        StoreU(blend(alpha, LoadU(d + o), LoadU(s + o)), d + o);
+    const auto copyPiece = [&](auto size) __attribute__((always_inline)) {
+        if (!(last & size)) return;
+        storePiece<size>(blend(headOf(ints(alpha)), loadPiece<size>(d + o), loadPiece<size>(s + o)), d + o);
+        o += size;
+    };
+    if constexpr (vecBytes > 16) copyPiece(std::integral_constant<int, 16>{});
+    if constexpr (Bytes <= 8) copyPiece(std::integral_constant<int, 8>{});
+    if constexpr (Bytes <= 4) copyPiece(std::integral_constant<int, 4>{});
+    storeColour<Bytes>(loadColour<Bytes>(s + last), d + last);
 }
 
-// Copies n pixels, at least one, that do not overlap their copy.
-template <class P>
-PXL_INLINE void copyRun(const uint8_t* s, uint8_t* d, ptrdiff_t n) {
-    const size_t bytes = static_cast<size_t>(n * P::bytes);
-    if constexpr (!P::whole) copyColours<P>(s, d, n);
-    else if (bytes < 64) copyFew<64>(d, s, bytes);
-    else std::memcpy(d, s, bytes);
+template <int Bytes, int Processed>
+PXL_INLINE Pattern<Bytes> pixelPattern(const uint8_t* pixel) {
+    if constexpr (Bytes == Processed)
+        return patternOf<Bytes>(pixel);
+    else
+        return colourPattern<Bytes>(pixel);
 }
 
-// ---- the plain loop --------------------------------------------------------------------------------------------------------
+template <int Bytes, int Processed>
+PXL_INLINE void fillRun(uint8_t* d, ptrdiff_t bytes, const Pattern<Bytes>& pixel) {
+    if constexpr (Bytes == Processed)
+        fillPixels(d, bytes, pixel);
+    else
+        fillPixels(d, bytes, pixel, alphaPattern<Bytes>());
+}
+
+template <int Bytes, int Processed>
+PXL_INLINE void copySource(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+    if (s == d) return;
+    if constexpr (Bytes == Processed)
+        copyBytesInline(s, d, bytes);
+    else
+        copyColours<Bytes>(s, d, bytes);
+}
+
+// Copies the source pixels of each row and calls fill(margin, its bytes, the source pixel next to it) for both margins,
+// in a loop so that there is one copy of it.
+template <int Bytes, int Processed, class Fill>
+PXL_INLINE void makeRows(const Rows& rows, const Borders& b, Fill&& fill) {
+    const ptrdiff_t left = b.left * Bytes, width = b.width * Bytes, right = b.right() * Bytes;
+    for (ptrdiff_t y = 0; y < rows.count; ++y) {
+        const uint8_t* const s = rows.src.at(0, y);
+        uint8_t* const d = rows.dst.at(0, y);
+        copySource<Bytes, Processed>(s, d, width);
+        for (int side = 0; side < 2; ++side)
+            fill(side ? d + width : d - left, side ? right : left, side ? s + width - Bytes : s);
+    }
+}
+
+template <int Bytes, int Processed>
+void makeConstRows(const Rows& rows, const Borders& b, const void* value) {
+    const Pattern<Bytes> pattern = loadPattern<Bytes>(value);
+    const auto fill = [&](uint8_t * d, ptrdiff_t bytes, const uint8_t*) __attribute__((always_inline)) {
+        fillRun<Bytes, Processed>(d, bytes, pattern);
+    };
+    makeRows<Bytes, Processed>(rows, b, fill);
+}
+
+template <int Bytes, int Processed>
+void makeReplicateRows(const Rows& rows, const Borders& b, const void*) {
+    const auto fill = [](uint8_t * d, ptrdiff_t bytes, const uint8_t* pixel) __attribute__((always_inline)) {
+        fillRun<Bytes, Processed>(d, bytes, pixelPattern<Bytes, Processed>(pixel));
+    };
+    makeRows<Bytes, Processed>(rows, b, fill);
+}
+
+// The margins are copied in whole periods, each time twice as many, until they are full.
+template <int Bytes>
+void makeWrapRows(const Rows& rows, const Borders& b, const void*) {
+    const ptrdiff_t width = b.width * Bytes;
+    for (ptrdiff_t y = 0; y < rows.count; ++y) {
+        uint8_t* begin = rows.dst.at(0, y);
+        uint8_t* end = begin + width;
+        copySource<Bytes, Bytes>(rows.src.at(0, y), begin, width);
+        for (ptrdiff_t rest = b.right() * Bytes, period = width, n; rest > 0; rest -= n, period *= 2, end += n) {
+            n = rest < period ? rest : period;
+            copyBytes(end - period, end, n);
+        }
+        for (ptrdiff_t rest = b.left * Bytes, period = width, n; rest > 0; rest -= n, period *= 2) {
+            n = rest < period ? rest : period;
+            begin -= n;
+            copyBytes(begin + period, begin, n);
+        }
+    }
+}
+
+// ---- the plain loop -------------------------------------------------------------------------------------------------
 
 // Every pixel is read from where at(x, y) says; null leaves the destination pixel as it is.
-template <class P, class At>
-void extendPlainly(const Destination& dst, const Borders& b, At&& at) {
+template <class At>
+void extendPlainly(const Destination& dst, const Borders& b, int processed, At&& at) {
     for (ptrdiff_t y = 0; y < b.outHeight; ++y)
         for (ptrdiff_t x = 0; x < b.outWidth; ++x)
-            if (const uint8_t* s = at(x - b.left, y - b.top)) copyPixel<P>(s, dst.at(x, y));
+            if (const uint8_t* s = at(x - b.left, y - b.top))
+                copyFew<17>(dst.at(x, y), s, static_cast<size_t>(processed));
 }
 
-inline bool isInside(const Borders& b, ptrdiff_t x, ptrdiff_t y) {
-    return x >= 0 && x < b.width && y >= 0 && y < b.height;
-}
-
-inline bool rowsApart(const Destination& dst, const Borders& b) {
+bool rowsApart(const Destination& dst, const Borders& b) {
     return b.outHeight == 1 || dst.step >= b.outWidth * dst.pixelBytes;
 }
 
-inline bool allApart(const Source& src, const Destination& dst, const Borders& b) {
+bool allApart(const Source& src, const Destination& dst, const Borders& b) {
     return rowsApart(dst, b) && !extentOf(src, b.width, b.height).meets(extentOf(dst, b.outWidth, b.outHeight));
 }
 
-// ---- constant --------------------------------------------------------------------------------------------------------------
+// ---- images ---------------------------------------------------------------------------------------------------------
 
-template <class P>
-void extendByConstant(const Source& src, const Destination& dst, const Borders& b, const uint8_t* value) {
-    const Pattern<P::bytes> pattern = pixelPattern<P>(value);
-    for (ptrdiff_t y = 0; y < b.outHeight; ++y) {
-        const bool margin = y < b.top || y >= b.top + b.height;
-        fillRun<P>(dst.at(0, y), margin ? b.outWidth : b.left, pattern);
-        if (margin) continue;
-        copyRun<P>(src.at(0, y - b.top), dst.at(b.left, y), b.width);
-        fillRun<P>(dst.at(b.left + b.width, y), b.right(), pattern);
+void extendByConstant(const Source& src, const Destination& dst, const Borders& b, const Layout& layout,
+                      MakeRows* makeRows, const void* pattern, const uint8_t* value) {
+    if (!allApart(src, dst, b))
+        return extendPlainly(dst, b, layout.processed,
+                             [&](ptrdiff_t x, ptrdiff_t y) { return b.isInside(x, y) ? src.at(x, y) : value; });
+    Borders none = b; // of rows that are all margin
+    none.left = none.width = 0;
+    const auto fillRows = [&](ptrdiff_t y, ptrdiff_t end) {
+        const Destination at = {dst.at(0, y), dst.step, dst.pixelBytes};
+        makeRows({{at.base, at.step, at.pixelBytes}, at, end - y}, none, pattern);
+    };
+    fillRows(0, b.top);
+    makeRows({src, {dst.at(b.left, b.top), dst.step, dst.pixelBytes}, b.height}, b, pattern);
+    fillRows(b.top + b.height, b.outHeight);
+}
+
+// The row or column of the source that a coordinate stands for.
+using Map = ptrdiff_t(ptrdiff_t x, ptrdiff_t size);
+
+ptrdiff_t nearest(ptrdiff_t x, ptrdiff_t size) { return x < 0 ? 0 : x < size ? x : size - 1; }
+ptrdiff_t periodic(ptrdiff_t x, ptrdiff_t size) { return x % size + (x % size < 0 ? size : 0); }
+
+// The rows above and below the source, copied from the others.
+void copyMarginRows(const Destination& dst, const Borders& b, const Layout& layout, Map* map) {
+    const auto copyRow = [&](ptrdiff_t y) {
+        layout.copyRun(dst.at(0, b.top + map(y - b.top, b.height)), dst.at(0, y), b.outWidth * dst.pixelBytes);
+    };
+    for (ptrdiff_t y = 0; y < b.top; ++y)
+        copyRow(y);
+    for (ptrdiff_t y = b.top + b.height; y < b.outHeight; ++y)
+        copyRow(y);
+}
+
+void extend(const Source& src, const Destination& dst, const Borders& b, const Layout& layout, MakeRows* makeRows,
+            Map* map) {
+    if (!allApart(src, dst, b))
+        return extendPlainly(dst, b, layout.processed,
+                             [&](ptrdiff_t x, ptrdiff_t y) { return src.at(map(x, b.width), map(y, b.height)); });
+    makeRows({src, {dst.at(b.left, b.top), dst.step, dst.pixelBytes}, b.height}, b, nullptr);
+    copyMarginRows(dst, b, layout, map);
+}
+
+void extendInPlace(const Destination& inside, const Borders& b, const Layout& layout, MakeRows* makeRows, Map* map) {
+    const Destination dst = {inside.at(-b.left, -b.top), inside.step, inside.pixelBytes};
+    if (!rowsApart(dst, b))
+        return extendPlainly(dst, b, layout.processed, [&](ptrdiff_t x, ptrdiff_t y) {
+            return b.isInside(x, y) ? nullptr : inside.at(map(x, b.width), map(y, b.height));
+        });
+    makeRows({{inside.base, inside.step, inside.pixelBytes}, inside, b.height}, b, nullptr);
+    copyMarginRows(dst, b, layout, map);
+}
+
+// ---- families -------------------------------------------------------------------------------------------------------
+
+template <class T, int Elements, int Channels>
+struct Form {
+    static constexpr int bytes = Elements * sizeof(T); // of a pixel
+    static constexpr int processed = Channels * sizeof(T);
+
+    static Layout layout() {
+        if constexpr (Elements == Channels)
+            return {processed, copyBytes};
+        else
+            return {processed, copyColours<bytes>};
     }
+    static Source source(const T* p, int step) { return operand(reinterpret_cast<const uint8_t*>(p), step, bytes); }
+    static Destination destination(T* p, int step) { return operand(reinterpret_cast<uint8_t*>(p), step, bytes); }
+};
+
+PxlStatus check(const void* src, int srcStep, const void* dst, int dstStep, const Borders& b) {
+    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
+    if (anyStepBelow1(srcStep, dstStep)) return PXL_E_STEP;
+    return b.isValid() ? PXL_OK : PXL_E_SIZE;
 }
 
 template <class T, int Elements, int Channels>
 PxlStatus CopyConstBorder(const T* src, int srcStep, ImageSize srcSize, T* dst, int dstStep, ImageSize dstSize,
                           int borderTop, int borderLeft, const T* value) {
-    using P = PixelOf<T, Elements, Channels>;
+    using F = Form<T, Elements, Channels>;
     const Borders b(srcSize, dstSize, borderTop, borderLeft);
-    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
-    if (anyStepBelow1(srcStep, dstStep)) return PXL_E_STEP;
-    if (!b.valid()) return PXL_E_SIZE;
+    if (const PxlStatus status = check(src, srcStep, dst, dstStep, b)) return status;
     if (anyNull(value)) return PXL_E_NULL_PTR;
-    const Source from = sourceOf<P>(src, srcStep);
-    const Destination to = destinationOf<P>(dst, dstStep);
-    uint8_t pixel[P::bytes] = {};
-    copyPixel<P>(reinterpret_cast<const uint8_t*>(value), pixel);
-    if (allApart(from, to, b)) extendByConstant<P>(from, to, b, pixel);
-    else
-        extendPlainly<P>(to, b, [&](ptrdiff_t x, ptrdiff_t y) { return isInside(b, x, y) ? from.at(x, y) : pixel; });
+    T pixel[Elements] = {}; // a copy, since the destination may overlap the values
+    for (int c = 0; c < Channels; ++c)
+        pixel[c] = load1(value + c);
+    const Pattern<F::bytes> pattern = patternOf<F::bytes>(pixel);
+    extendByConstant(F::source(src, srcStep), F::destination(dst, dstStep), b, F::layout(),
+                     makeConstRows<F::bytes, F::processed>, &pattern, reinterpret_cast<const uint8_t*>(pixel));
     return PXL_OK;
 }
 
@@ -159,121 +285,44 @@ PxlStatus CopyConstBorder(const T* src, int srcStep, ImageSize srcSize, T* dst, 
                                                   &value);
 }
 
-// ---- replicate and wrap ----------------------------------------------------------------------------------------------------
-// Each kind maps a coordinate to one of the source, and fills the margins of a row whose source pixels stand at `row`.
-
-template <class P>
-struct Replicate {
-    static ptrdiff_t map(ptrdiff_t x, ptrdiff_t size) { return x < 0 ? 0 : x < size ? x : size - 1; }
-
-    PXL_INLINE static void fillMargins(uint8_t* row, const Borders& b) {
-        uint8_t* const end = row + b.width * P::bytes;
-        if (b.left > 0) fillRun<P>(row - b.left * P::bytes, b.left, pixelPattern<P>(row));
-        if (b.right() > 0) fillRun<P>(end, b.right(), pixelPattern<P>(end - P::bytes));
-    }
-};
-
-template <class P>
-struct Wrap {
-    static ptrdiff_t map(ptrdiff_t x, ptrdiff_t size) { return x % size + (x % size < 0 ? size : 0); }
-
-    // Copies whole periods, twice as many each time, up to the end of the margin.
-    static void fillMargins(uint8_t* row, const Borders& b) {
-        uint8_t* end = row + b.width * P::bytes;
-        for (ptrdiff_t rest = b.right(), period = b.width, n; rest > 0; rest -= n, period *= 2) {
-            n = rest < period ? rest : period;
-            copyRun<P>(end - period * P::bytes, end, n);
-            end += n * P::bytes;
-        }
-        for (ptrdiff_t rest = b.left, period = b.width, n; rest > 0; rest -= n, period *= 2) {
-            n = rest < period ? rest : period;
-            row -= n * P::bytes;
-            copyRun<P>(row + period * P::bytes, row, n);
-        }
-    }
-};
-
-// The rows of the margin, copied from the others.
-template <class P, class Kind>
-void copyMarginRows(const Destination& dst, const Borders& b) {
-    for (ptrdiff_t y = 0; y < b.outHeight; ++y) {
-        if (y == b.top) y += b.height;
-        if (y < b.outHeight) copyRun<P>(dst.at(0, b.top + Kind::map(y - b.top, b.height)), dst.at(0, y), b.outWidth);
-    }
-}
-
-template <class P, class Kind>
-void extend(const Source& src, const Destination& dst, const Borders& b) {
-    if (!allApart(src, dst, b))
-        return extendPlainly<P>(dst, b, [&](ptrdiff_t x, ptrdiff_t y) {
-            return src.at(Kind::map(x, b.width), Kind::map(y, b.height));
-        });
-    for (ptrdiff_t y = 0; y < b.height; ++y) {
-        uint8_t* const row = dst.at(b.left, b.top + y);
-        copyRun<P>(src.at(0, y), row, b.width);
-        Kind::fillMargins(row, b);
-    }
-    copyMarginRows<P, Kind>(dst, b);
-}
-
-template <class P, class Kind>
-void extendInPlace(const Destination& inside, const Borders& b) {
-    const Destination dst = {inside.at(-b.left, -b.top), static_cast<int>(inside.step), inside.pixelBytes};
-    if (!rowsApart(dst, b))
-        return extendPlainly<P>(dst, b, [&](ptrdiff_t x, ptrdiff_t y) -> const uint8_t* {
-            return isInside(b, x, y) ? nullptr : inside.at(Kind::map(x, b.width), Kind::map(y, b.height));
-        });
-    if (b.outWidth > b.width)
-        for (ptrdiff_t y = 0; y < b.height; ++y) Kind::fillMargins(inside.at(0, y), b);
-    copyMarginRows<P, Kind>(dst, b);
-}
-
-template <class P, class Kind, class T>
-PxlStatus copyBorder(const T* src, int srcStep, ImageSize srcSize, T* dst, int dstStep, ImageSize dstSize,
-                     int borderTop, int borderLeft) {
-    const Borders b(srcSize, dstSize, borderTop, borderLeft);
-    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
-    if (anyStepBelow1(srcStep, dstStep)) return PXL_E_STEP;
-    if (!b.valid()) return PXL_E_SIZE;
-    extend<P, Kind>(sourceOf<P>(src, srcStep), destinationOf<P>(dst, dstStep), b);
-    return PXL_OK;
-}
-
-template <class P, class Kind, class T>
-PxlStatus borderInPlace(T* src, int step, ImageSize srcSize, ImageSize dstSize, int borderTop, int borderLeft) {
-    const Borders b(srcSize, dstSize, borderTop, borderLeft);
-    if (anyNull(src)) return PXL_E_NULL_PTR;
-    if (anyStepBelow1(step)) return PXL_E_STEP;
-    if (!b.valid()) return PXL_E_SIZE;
-    extendInPlace<P, Kind>(destinationOf<P>(src, step), b);
-    return PXL_OK;
-}
-
 template <class T, int Elements, int Channels>
 PxlStatus CopyReplicateBorder(const T* src, int srcStep, ImageSize srcSize, T* dst, int dstStep, ImageSize dstSize,
                               int borderTop, int borderLeft) {
-    using P = PixelOf<T, Elements, Channels>;
-    return copyBorder<P, Replicate<P>>(src, srcStep, srcSize, dst, dstStep, dstSize, borderTop, borderLeft);
+    using F = Form<T, Elements, Channels>;
+    const Borders b(srcSize, dstSize, borderTop, borderLeft);
+    if (const PxlStatus status = check(src, srcStep, dst, dstStep, b)) return status;
+    extend(F::source(src, srcStep), F::destination(dst, dstStep), b, F::layout(),
+           makeReplicateRows<F::bytes, F::processed>, nearest);
+    return PXL_OK;
 }
 
 template <class T, int Elements, int Channels>
 PxlStatus ReplicateBorderInPlace(T* src, int step, ImageSize srcSize, ImageSize dstSize, int borderTop,
                                  int borderLeft) {
-    using P = PixelOf<T, Elements, Channels>;
-    return borderInPlace<P, Replicate<P>>(src, step, srcSize, dstSize, borderTop, borderLeft);
+    using F = Form<T, Elements, Channels>;
+    const Borders b(srcSize, dstSize, borderTop, borderLeft);
+    if (const PxlStatus status = check(src, step, src, step, b)) return status;
+    extendInPlace(F::destination(src, step), b, F::layout(), makeReplicateRows<F::bytes, F::processed>, nearest);
+    return PXL_OK;
 }
 
 template <class T>
 PxlStatus CopyWrapBorder(const T* src, int srcStep, ImageSize srcSize, T* dst, int dstStep, ImageSize dstSize,
                          int borderTop, int borderLeft) {
-    using P = PixelOf<T, 1, 1>;
-    return copyBorder<P, Wrap<P>>(src, srcStep, srcSize, dst, dstStep, dstSize, borderTop, borderLeft);
+    using F = Form<T, 1, 1>;
+    const Borders b(srcSize, dstSize, borderTop, borderLeft);
+    if (const PxlStatus status = check(src, srcStep, dst, dstStep, b)) return status;
+    extend(F::source(src, srcStep), F::destination(dst, dstStep), b, F::layout(), makeWrapRows<F::bytes>, periodic);
+    return PXL_OK;
 }
 
 template <class T>
 PxlStatus WrapBorderInPlace(T* src, int step, ImageSize srcSize, ImageSize dstSize, int borderTop, int borderLeft) {
-    using P = PixelOf<T, 1, 1>;
-    return borderInPlace<P, Wrap<P>>(src, step, srcSize, dstSize, borderTop, borderLeft);
+    using F = Form<T, 1, 1>;
+    const Borders b(srcSize, dstSize, borderTop, borderLeft);
+    if (const PxlStatus status = check(src, step, src, step, b)) return status;
+    extendInPlace(F::destination(src, step), b, F::layout(), makeWrapRows<F::bytes>, periodic);
+    return PXL_OK;
 }
 
 } // namespace

@@ -5,8 +5,8 @@
 //     using Lane             Result, or a signed type of twice or four times its size, narrowed with saturation
 //     Vec<Lane> operator()(Vec<Source> v) const   of the first lanes<Lane> lanes of v
 //
-// Since the sizes differ, a source and a destination that share memory are never in place, and the walker hands over either
-// disjoint rows or single pixels. So a row may be finished with a block that overlaps the one before it.
+// Since the sizes differ, a source and a destination that share memory are never in place, and the walker hands over
+// either disjoint rows or single pixels. So a row may be finished with a block that overlaps the one before it.
 #pragma once
 
 #include "frame/checks.h"
@@ -17,11 +17,11 @@
 
 namespace pxl::PXL_TARGET {
 
-// The three- and four-channel forms widen the region and pass on what the one-channel form finds, so they look at the width
-// before anything else.
-template <int Elements>
+// Where all of three or four elements are converted, the region is widened and passed on to the form for one, so the
+// width is looked at before anything else.
+template <int Elements, int Channels>
 inline PxlStatus checkConversion(const void* src, int srcStep, const void* dst, int dstStep, ImageSize roi) {
-    if (Elements > 1 && roi.width < 1) return PXL_E_SIZE;
+    if (Elements > 1 && Channels == Elements && roi.width < 1) return PXL_E_SIZE;
     if (anyNull(src, dst)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
     if (anyStepBelow1(srcStep, dstStep)) return PXL_E_STEP;
@@ -31,13 +31,11 @@ inline PxlStatus checkConversion(const void* src, int srcStep, const void* dst, 
 template <class Operation>
 inline constexpr int unitOf = lanes<typename Operation::Lane>;
 
-// Stores Count elements; of every four, the one at KeptLane keeps its value (no one for -1).
-template <int Count, int KeptLane, class D>
+// Stores Count elements; in pixels with alpha, the fourth of each keeps its value.
+template <int Count, bool Alpha, class D>
 PXL_INLINE void storeConverted(Vec<D> v, D* d) {
-    if constexpr (KeptLane >= 0)
-        StoreFirst<Count>(KeepEveryFourth<KeptLane>(LoadFirst<Count>(d), v), d);
-    else
-        StoreFirst<Count>(v, d);
+    if constexpr (Alpha) v = KeepEveryFourth<3>(LoadFirst<Count>(d), v);
+    StoreFirst<Count>(v, d);
 }
 
 template <class Operation, class S>
@@ -57,25 +55,27 @@ PXL_INLINE auto convertRegister(const Operation& operation, const S* s) {
     if constexpr (parts == 4) return Demote4<D>(part(0), part(1), part(2), part(3));
 }
 
-template <int KeptLane, class Operation, class S, class D>
+template <bool Alpha, class Operation, class S, class D>
 PXL_INLINE void convertOneUnit(const Operation& operation, const S* s, D* d) {
-    storeConverted<unitOf<Operation>, KeptLane>(DemoteFirst<D>(convertUnit(operation, s)), d);
+    storeConverted<unitOf<Operation>, Alpha>(DemoteFirst<D>(convertUnit(operation, s)), d);
 }
 
-template <int KeptLane, class Operation, class S, class D>
+template <bool Alpha, class Operation, class S, class D>
 PXL_INLINE void convertFourUnits(const Operation& operation, const S* s, D* d) {
 #pragma GCC unroll 4
     for (int x = 0; x < 4 * unitOf<Operation>; x += lanes<D>)
-        storeConverted<lanes<D>, KeptLane>(convertRegister(operation, s + x), d + x);
+        storeConverted<lanes<D>, Alpha>(convertRegister(operation, s + x), d + x);
 }
 
 // All whole units of n elements; returns where it stopped.
-template <int KeptLane, class Operation, class S, class D>
+template <bool Alpha, class Operation, class S, class D>
 PXL_INLINE ptrdiff_t convertUnits(const Operation& operation, ptrdiff_t n, const S* s, D* d) {
     constexpr int unit = unitOf<Operation>;
     ptrdiff_t x = 0;
-    for (; x + 4 * unit <= n; x += 4 * unit) convertFourUnits<KeptLane>(operation, s + x, d + x);
-    for (; x + unit <= n; x += unit) convertOneUnit<KeptLane>(operation, s + x, d + x);
+    for (; x + 4 * unit <= n; x += 4 * unit)
+        convertFourUnits<Alpha>(operation, s + x, d + x);
+    for (; x + unit <= n; x += unit)
+        convertOneUnit<Alpha>(operation, s + x, d + x);
     return x;
 }
 
@@ -90,56 +90,65 @@ struct FewResults {
     }
 };
 
+// Rows are functions of their own: inlined into the walk, they would share its registers.
 template <class Operation, class S, class D>
-[[gnu::noinline]] void convertRow(const Operation& operation, ptrdiff_t n, const S* s, D* d) {
+[[gnu::noinline]] void convertRow(Operation operation, ptrdiff_t n, const S* s, D* d) {
     constexpr int unit = unitOf<Operation>;
     if (n < unit)
         copyFew<unit * sizeof(D)>(d, FewResults(operation, n, s).data, static_cast<size_t>(n) * sizeof(D));
-    else if (convertUnits<-1>(operation, n, s, d) < n)
-        convertOneUnit<-1>(operation, s + n - unit, d + n - unit);
+    else if (convertUnits<false>(operation, n, s, d) < n)
+        convertOneUnit<false>(operation, s + n - unit, d + n - unit);
 }
 
-// Rows too short for a unit. The elements of a single pixel go one by one: in rows that overlap, an element that was just
-// written may be the source of the next.
+// Rows too short for a unit. The elements of a single pixel go one by one: in rows that overlap, an element that was
+// just written may be the source of the next.
 template <class Operation, class S, class D>
 PXL_INLINE void convertFewColours(const Operation& operation, ptrdiff_t pixels, const S* s, D* d) {
     if (pixels == 1) {
-        for (int c = 0; c < 3; ++c) store1(d + c, FewResults(operation, 1, s + c).data[0]);
+        for (int c = 0; c < 3; ++c)
+            store1(d + c, FewResults(operation, 1, s + c).data[0]);
         return;
     }
     const FewResults results(operation, 4 * pixels - 1, s);
-    for (ptrdiff_t x = 0; x < 4 * pixels; x += 4) std::memcpy(d + x, results.data + x, 3 * sizeof(D));
+    for (ptrdiff_t x = 0; x < 4 * pixels; x += 4)
+        std::memcpy(d + x, results.data + x, 3 * sizeof(D));
 }
 
-// Elements 0..2 of pixels of four. The fourth source element of the last pixel is not read: the last unit ends before it,
-// which puts the elements to keep into lanes 0, 4, 8 ...
+// Elements 0..2 of pixels of four. The fourth source element of the last pixel is not read: the last unit ends before
+// it, which puts the elements to keep into lanes 0, 4, 8 ...
 template <class Operation, class S, class D>
-[[gnu::noinline]] void convertColourRow(const Operation& operation, ptrdiff_t pixels, const S* s, D* d) {
+[[gnu::noinline]] void convertColourRow(Operation operation, ptrdiff_t pixels, const S* s, D* d) {
     constexpr int unit = unitOf<Operation>;
     const ptrdiff_t n = 4 * pixels - 1;
     if (n < unit) return convertFewColours(operation, pixels, s, d);
-    convertUnits<3>(operation, n, s, d);
-    convertOneUnit<0>(operation, s + n - unit, d + n - unit);
+    const Vec<D> kept = LoadFirst<unit>(d + n - unit); // later it would wait for the stores that it overlaps
+    convertUnits<true>(operation, n, s, d);
+    const Vec<D> last = DemoteFirst<D>(convertUnit(operation, s + n - unit));
+    StoreFirst<unit>(KeepEveryFourth<0>(kept, last), d + n - unit);
 }
 
-// ---- the walks: one body per operation, whatever the count of channels -------------------------------------------------------
+// ---- the walks: one body per operation, whatever the count of channels ----------------------------------------------
 
 template <class Operation, class S, class D>
-PxlStatus convertElements(Operation operation, const S* src, int srcStep, D* dst, int dstStep,
+[[gnu::noinline]] PxlStatus convertElements(Operation operation, const S* src, int srcStep, D* dst, int dstStep,
                                             ImageSize roi, int channels) {
-    walkElements(
-        roi, channels, [=](ptrdiff_t n, const S* s, D* d) { convertRow(operation, n, s, d); }, operand(src, srcStep),
-        operand(dst, dstStep));
+    const auto row = [=](ptrdiff_t n, const S* s, D* d) { convertRow(operation, n, s, d); };
+    walkElements(roi, channels, row, operand(src, srcStep), operand(dst, dstStep));
     return PXL_OK;
 }
 
 template <class Operation, class S, class D>
-PxlStatus convertColours(Operation operation, const S* src, int srcStep, D* dst, int dstStep,
-                                           ImageSize roi) {
-    walk(
-        roi, [=](ptrdiff_t n, const S* s, D* d) { convertColourRow(operation, n, s, d); }, operand(src, srcStep, 4),
-        operand(dst, dstStep, 4));
+PxlStatus convertColours(Operation operation, const S* src, int srcStep, D* dst, int dstStep, ImageSize roi) {
+    const auto row = [=](ptrdiff_t n, const S* s, D* d) { convertColourRow(operation, n, s, d); };
+    walk(roi, row, operand(src, srcStep, 4), operand(dst, dstStep, 4));
     return PXL_OK;
+}
+
+// Converts the first Channels of Elements elements of every pixel.
+template <int Elements, int Channels, class Operation, class S, class D>
+PxlStatus convertRegion(Operation operation, const S* src, int srcStep, D* dst, int dstStep, ImageSize roi) {
+    if constexpr (Channels < Elements) return convertColours(operation, src, srcStep, dst, dstStep, roi);
+    return convertElements(operation, src, srcStep, dst, dstStep, roi, Elements);
 }
 
 } // namespace pxl::PXL_TARGET

@@ -4,8 +4,9 @@
 //   roundMode 0      truncated toward zero
 //   roundMode 1      rounded to nearest, ties to even; see exchange/rounding.h
 //   any other        v + 0.5 with the sign of v, a single-precision sum, truncated: 0.49999997 becomes 1
-// and NaN gives 0. The lower bound needs no operation of its own: what lies below the range of 32s converts to its minimum,
-// and narrowing saturates. That minimum is what NaN converts to as well, which is the wanted 0 for unsigned destinations.
+// and NaN gives 0. The lower bound needs no operation of its own: what lies below the range of 32s converts to its
+// minimum, and narrowing saturates. That minimum is what NaN converts to as well, which is the wanted 0 for unsigned
+// destinations.
 #include <limits>
 
 #include "exchange/conversion.h"
@@ -47,8 +48,8 @@ struct RoundToNearest {
     }
 };
 
-// v + bias with the sign of v, truncated: bias 0 for roundMode 0, 0.5 for ties away from zero. A negative v that takes the
-// bias as it is still ends at or below 0, which is enough for unsigned destinations.
+// v + bias with the sign of v, truncated: bias 0 for roundMode 0, 0.5 for ties away from zero. A negative v that takes
+// the bias as it is still ends at or below 0, which is enough for unsigned destinations.
 template <class D>
 struct Truncate {
     using Source = float;
@@ -64,38 +65,22 @@ struct Truncate {
     }
 };
 
-template <class S, class D, int Elements>
-PxlStatus ConvertElements(const S* src, int srcStep, D* dst, int dstStep, ImageSize roi) {
-    const PxlStatus status = checkConversion<Elements>(src, srcStep, dst, dstStep, roi);
+template <class S, class D, int Elements, int Channels>
+PxlStatus Convert(const S* src, int srcStep, D* dst, int dstStep, ImageSize roi) {
+    const PxlStatus status = checkConversion<Elements, Channels>(src, srcStep, dst, dstStep, roi);
     if (status != PXL_OK) return status;
-    return convertElements(KeepValue<S, D>(), src, srcStep, dst, dstStep, roi, Elements);
+    return convertRegion<Elements, Channels>(KeepValue<S, D>(), src, srcStep, dst, dstStep, roi);
 }
 
-template <class S, class D>
-PxlStatus ConvertColour(const S* src, int srcStep, D* dst, int dstStep, ImageSize roi) {
-    const PxlStatus status = checkConversion<1>(src, srcStep, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
-    return convertColours(KeepValue<S, D>(), src, srcStep, dst, dstStep, roi);
-}
-
-inline float biasOf(int roundMode) { return roundMode == PXL_ROUND_ZERO ? 0.0f : 0.5f; }
-
-template <class D, int Elements>
+template <class D, int Elements, int Channels>
 PxlStatus ConvertRounded(const float* src, int srcStep, D* dst, int dstStep, ImageSize roi, int roundMode) {
-    const PxlStatus status = checkConversion<Elements>(src, srcStep, dst, dstStep, roi);
+    const PxlStatus status = checkConversion<Elements, Channels>(src, srcStep, dst, dstStep, roi);
     if (status != PXL_OK) return status;
-    if (roundMode == PXL_ROUND_NEAR_EVEN)
-        return convertElements(RoundToNearest<D>(), src, srcStep, dst, dstStep, roi, Elements);
-    return convertElements(Truncate<D>{biasOf(roundMode)}, src, srcStep, dst, dstStep, roi, Elements);
-}
-
-template <class D>
-PxlStatus ConvertRoundedColour(const float* src, int srcStep, D* dst, int dstStep, ImageSize roi, int roundMode) {
-    const PxlStatus status = checkConversion<1>(src, srcStep, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
-    if (roundMode == PXL_ROUND_NEAR_EVEN)
-        return convertColours(RoundToNearest<D>(), src, srcStep, dst, dstStep, roi);
-    return convertColours(Truncate<D>{biasOf(roundMode)}, src, srcStep, dst, dstStep, roi);
+    const auto run = [&](auto operation) {
+        return convertRegion<Elements, Channels>(operation, src, srcStep, dst, dstStep, roi);
+    };
+    if (roundMode == PXL_ROUND_NEAR_EVEN) return run(RoundToNearest<D>());
+    return run(Truncate<D>{roundMode == PXL_ROUND_ZERO ? 0.0f : 0.5f});
 }
 
 } // namespace

@@ -30,8 +30,7 @@ template <class T, GroupForm Form, class Change>
 PxlStatus ownCopyColour(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, Change change) {
     if (anyNull(src, dst)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
-    const auto row = [&](ptrdiff_t n, const T* s, T* d) { ownChangeRow<T, Form>(n, s, d, change); };
-    walk(roi, row, operand(src, srcStep, Form.srcElements), operand(dst, dstStep, Form.dstElements));
+    walkGroups<T, Form>(roi, change, src, srcStep, dst, dstStep);
     return PXL_OK;
 }
 

@@ -14,75 +14,70 @@ namespace {
 
 // ---- rows of a channel -------------------------------------------------------------------------------------------------------
 
-// Ones in every element that is a multiple of Elements, from any element on.
-template <class T, int Elements>
-struct ChannelPattern {
-    T ones[lanes<T> + Elements - 1] = {};
-    constexpr ChannelPattern() {
-        for (int i = 0; i < lanes<T> + Elements - 1; i += Elements) ones[i] = static_cast<T>(-1);
-    }
-    PXL_INLINE Mask<T> from(ptrdiff_t x) const { return LoadU(ones + x % Elements); }
+// Vectors of pixels of N elements, from memory in which the channel is the first or the last element at the end.
+template <class T, int N>
+struct PixelVectors {
+    Vec<T> v[N];
 };
 
-template <class T, int Elements>
-PXL_INLINE void ownBlendChannelRow(ptrdiff_t n, const T* s, T* d) {
-    static constexpr ChannelPattern<T, Elements> pattern;
-    const auto blend = [&]<int P>(Part<P>, ptrdiff_t x, Mask<T> mask) {
-        StorePart<P>(IfThenElse(mask, LoadPart<P>(s + x), LoadPart<P>(d + x)), d + x);
-    };
-    const ptrdiff_t elements = (n - 1) * Elements + 1;
-    ptrdiff_t x = 0;
-    for (; x + Elements * lanes<T> <= elements; x += Elements * lanes<T>)
-        for (int i = 0; i < Elements * lanes<T>; i += lanes<T>) blend(Part<lanes<T>>{}, x + i, pattern.from(i));
-    const auto part = [&](auto p, ptrdiff_t at) { blend(p, at, pattern.from(at)); };
-    if (!rowByParts<lanes<T>, leastPart<T>>(elements, part, x)) store1(d, load1(s));
-}
+template <int Channel>
+using ChannelOf = std::integral_constant<int, Channel>;
 
-template <class T, int Elements, int Pixels, int Channel>
-PXL_INLINE Vec<T> loadChannel(const T* s) {
-    Vec<T> channels[4];
-    if constexpr (Elements == 3)
-        LoadInterleaved3<T, Pixels>(s, channels[0], channels[1], channels[2]);
-    else
-        LoadInterleaved4<T, Pixels>(s, channels[0], channels[1], channels[2], channels[3]);
-    return channels[Channel];
-}
-
-template <class T, int Elements>
+template <class T, int N>
 PXL_INLINE void ownExtractChannelRow(ptrdiff_t n, const T* s, T* d) {
-    const auto part = [&]<int P>(Part<P>, ptrdiff_t x) {
-        StorePart<P>(loadChannel<T, Elements, P, 0>(s + x * Elements), d + x);
+    const auto channel = [&]<int P, int Channel>(Part<P>, ChannelOf<Channel>, ptrdiff_t x) {
+        Vec<T> v[N];
+        loadPixels<P>(s + x * N - Channel, v);
+        return gatherChannel<Channel>(v);
     };
-    const auto end = [&]<int P>(Part<P>, ptrdiff_t x) {
-        StorePart<P>(loadChannel<T, Elements, P, Elements - 1>(s + x * Elements - (Elements - 1)), d + x);
+    const auto part = [&]<int P>(Part<P> p, ptrdiff_t x) { StorePart<P>(channel(p, ChannelOf<0>{}, x), d + x); };
+    const auto end = [&]<int P>(Part<P> p, ptrdiff_t x) {
+        return [v = channel(p, ChannelOf<N - 1>{}, x), at = d + x] { StorePart<P>(v, at); };
     };
     if (rowByPartsAndEnd<lanes<T>, leastPart<T>>(n, part, end)) return;
-    for (ptrdiff_t x = 0; x < n; ++x) store1(d + x, load1(s + x * Elements));
+    for (ptrdiff_t x = 0; x < n; ++x) store1(d + x, load1(s + x * N));
 }
 
-template <class T, int Elements, int Pixels, int Channel>
-PXL_INLINE void replaceChannel(Vec<T> v, T* d) {
-    if constexpr (Elements == 3)
-        ReplaceChannel3<Channel, T, Pixels>(v, d);
-    else
-        ReplaceChannel4<Channel, T, Pixels>(v, d);
+// source(Part<P>, ChannelOf<Channel>, x, vectors) gives P pixels from x on that hold the new values of the channel. False, and
+// nothing done, for very short rows.
+template <class T, int N, class Source>
+PXL_INLINE bool ownReplaceChannelRow(ptrdiff_t n, Source source, T* d) {
+    const auto replaced = [&]<int P, int Channel>(Part<P> p, ChannelOf<Channel> c, ptrdiff_t x) {
+        Vec<T> from[N];
+        source(p, c, x, from);
+        PixelVectors<T, N> pixels;
+        loadPixels<P>(d + x * N - Channel, pixels.v);
+        blendChannel<Channel>(pixels.v, from);
+        return pixels;
+    };
+    const auto part = [&]<int P>(Part<P> p, ptrdiff_t x) { storePixels<P>(replaced(p, ChannelOf<0>{}, x).v, d + x * N); };
+    const auto end = [&]<int P>(Part<P> p, ptrdiff_t x) {
+        return [pixels = replaced(p, ChannelOf<N - 1>{}, x), at = d + x * N - (N - 1)] { storePixels<P>(pixels.v, at); };
+    };
+    return rowByPartsAndEnd<lanes<T>, leastPart<T>>(n, part, end);
 }
 
-template <class T, int Elements>
+template <class T, int N>
 PXL_INLINE void ownInsertChannelRow(ptrdiff_t n, const T* s, T* d) {
-    const auto part = [&]<int P>(Part<P>, ptrdiff_t x) {
-        replaceChannel<T, Elements, P, 0>(LoadPart<P>(s + x), d + x * Elements);
+    const auto spread = [&]<int P, int Channel>(Part<P>, ChannelOf<Channel>, ptrdiff_t x, Vec<T>(&v)[N]) {
+        spreadChannel<Channel>(LoadPart<P>(s + x), v);
     };
-    const auto end = [&]<int P>(Part<P>, ptrdiff_t x) {
-        replaceChannel<T, Elements, P, Elements - 1>(LoadPart<P>(s + x), d + x * Elements - (Elements - 1));
+    if (ownReplaceChannelRow<T, N>(n, spread, d)) return;
+    for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x));
+}
+
+template <class T, int N>
+PXL_INLINE void ownMoveChannelRow(ptrdiff_t n, const T* s, T* d) {
+    const auto pixels = [&]<int P, int Channel>(Part<P>, ChannelOf<Channel>, ptrdiff_t x, Vec<T>(&v)[N]) {
+        loadPixels<P>(s + x * N - Channel, v);
     };
-    if (rowByPartsAndEnd<lanes<T>, leastPart<T>>(n, part, end)) return;
-    for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * Elements, load1(s + x));
+    if (ownReplaceChannelRow<T, N>(n, pixels, d)) return;
+    for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x * N));
 }
 
 template <class T, int SrcElements, int DstElements>
 void ownCopyChannelRow(ptrdiff_t n, const T* s, T* d) {
-    if constexpr (SrcElements == DstElements) ownBlendChannelRow<T, SrcElements>(n, s, d);
+    if constexpr (SrcElements == DstElements) ownMoveChannelRow<T, SrcElements>(n, s, d);
     if constexpr (SrcElements > DstElements) ownExtractChannelRow<T, SrcElements>(n, s, d);
     if constexpr (SrcElements < DstElements) ownInsertChannelRow<T, DstElements>(n, s, d);
 }
@@ -121,17 +116,27 @@ PXL_INLINE void splitPixels(ptrdiff_t n, const T* s, T* const (&d)[Planes]) {
     }
 }
 
-template <class T, int Planes>
-PXL_INLINE void ownSplitRow(ptrdiff_t n, const T* s, T* const (&d)[Planes]) {
-    const auto part = [&]<int P>(Part<P>, ptrdiff_t x) {
-        Vec<T> v[4];
-        if constexpr (Planes == 3)
-            LoadInterleaved3<T, P>(s + x * 3, v[0], v[1], v[2]);
+template <class Stores, int P, class T, int Planes>
+PXL_INLINE void splitPart(const T* s, T* const (&d)[Planes], ptrdiff_t x) {
+    Vec<T> v[Planes];
+    loadPixels<P>(s + x * Planes, v);
+    deinterleave(v);
+#pragma GCC unroll 4
+    for (int p = 0; p < Planes; ++p) {
+        if constexpr (P == lanes<T>)
+            Stores::store(v[p], d[p] + x);
         else
-            LoadInterleaved4<T, P>(s + x * 4, v[0], v[1], v[2], v[3]);
-        for (int p = 0; p < Planes; ++p) StorePart<P>(v[p], d[p] + x);
-    };
-    if (!rowByParts<lanes<T>, leastPart<T>>(n, part)) splitPixels(n, s, d);
+            StorePart<P>(v[p], d[p] + x);
+    }
+}
+
+template <class T, int Planes>
+PXL_INLINE void ownSplitRow(ptrdiff_t n, const T* s, T* const (&d)[Planes], bool streamed) {
+    constexpr int most = lanes<T>;
+    ptrdiff_t x = 0;
+    for (; streamed && x + most <= n; x += most) splitPart<Streamed, most>(s, d, x);
+    const auto part = [&]<int P>(Part<P>, ptrdiff_t at) { splitPart<Cached, P>(s, d, at); };
+    if (!rowByParts<most, leastPart<T>>(n, part, x)) splitPixels(n, s, d);
 }
 
 template <class T, int Planes>
@@ -143,30 +148,41 @@ PXL_INLINE void mergePixels(ptrdiff_t n, const T* const (&s)[Planes], T* d) {
     }
 }
 
-template <class T, int Planes>
-PXL_INLINE void ownMergeRow(ptrdiff_t n, const T* const (&s)[Planes], T* d) {
-    const auto part = [&]<int P>(Part<P>, ptrdiff_t x) {
-        const auto plane = [&](int p) { return LoadPart<P>(s[p] + x); };
-        if constexpr (Planes == 3)
-            StoreInterleaved3<T, P>(plane(0), plane(1), plane(2), d + x * 3);
-        else
-            StoreInterleaved4<T, P>(plane(0), plane(1), plane(2), plane(3), d + x * 4);
-    };
-    if (!rowByParts<lanes<T>, leastPart<T>>(n, part)) mergePixels(n, s, d);
+template <class Stores, int P, class T, int Planes>
+PXL_INLINE void mergePart(const T* const (&s)[Planes], T* d, ptrdiff_t x) {
+    Vec<T> v[Planes];
+#pragma GCC unroll 4
+    for (int p = 0; p < Planes; ++p) v[p] = LoadPart<P>(s[p] + x);
+    interleave(v);
+    storePixels<P, Stores>(v, d + x * Planes);
 }
 
-// Walks Planes operands of one element and whatever else there is; the kernel gets the planes last.
+template <class T, int Planes>
+PXL_INLINE void ownMergeRow(ptrdiff_t n, const T* const (&s)[Planes], T* d, bool streamed) {
+    constexpr int most = lanes<T>;
+    ptrdiff_t x = 0;
+    for (; streamed && x + most <= n; x += most) mergePart<Streamed, most>(s, d, x);
+    const auto part = [&]<int P>(Part<P>, ptrdiff_t at) { mergePart<Cached, P>(s, d, at); };
+    if (!rowByParts<most, leastPart<T>>(n, part, x)) mergePixels(n, s, d);
+}
+
+// Walks an image of pixels and its planes. The kernel is also told whether to stream.
 template <class Kernel, class T, class Pixels, int... P>
-void walkPlanes(ImageSize roi, Kernel&& kernel, Operand<Pixels> pixels, T* const* planes, int step,
+void walkPlanes(ImageSize roi, Kernel kernel, Operand<Pixels> pixels, T* const* planes, int step,
                 std::integer_sequence<int, P...>) {
-    walk(roi, kernel, pixels, operand(planes[P], step)...);
+    const bool streamed = isStreamed(roi, pixels, operand(planes[P], step)...);
+    const auto row = [=](ptrdiff_t n, auto... p) { kernel(streamed, n, p...); };
+    walk(roi, row, pixels, operand(planes[P], step)...);
+    finishStreamed(streamed);
 }
 
 template <class T, int Planes>
 PxlStatus Split(const T* src, int srcStep, T* const* dst, int dstStep, ImageSize roi) {
     if (anyNull(src) || anyPlaneNull<Planes>(dst)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
-    const auto row = [](ptrdiff_t n, const T* s, auto... d) { ownSplitRow<T, Planes>(n, s, {d...}); };
+    const auto row = [](bool streamed, ptrdiff_t n, const T* s, auto... d) {
+        ownSplitRow<T, Planes>(n, s, {d...}, streamed);
+    };
     walkPlanes(roi, row, operand(src, srcStep, Planes), dst, dstStep, std::make_integer_sequence<int, Planes>{});
     return PXL_OK;
 }
@@ -175,7 +191,7 @@ template <class T, int Planes>
 PxlStatus Merge(const T* const* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
     if (anyPlaneNull<Planes>(src) || anyNull(dst)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
-    const auto row = [](ptrdiff_t n, T* d, auto... s) { ownMergeRow<T, Planes>(n, {s...}, d); };
+    const auto row = [](bool streamed, ptrdiff_t n, T* d, auto... s) { ownMergeRow<T, Planes>(n, {s...}, d, streamed); };
     walkPlanes(roi, row, operand(dst, dstStep, Planes), src, srcStep, std::make_integer_sequence<int, Planes>{});
     return PXL_OK;
 }

@@ -33,26 +33,29 @@ PXL_INLINE void loadGroups(const T* p, Vec<T> (&v)[4]) {
     if constexpr (Elements == 3) {
         LoadGroups3(p, v[0], v[1], v[2], v[3]);
     } else {
+#pragma GCC unroll 4
         for (int i = 0; i < 4; ++i) v[i] = LoadU(p + i * lanes<T>);
     }
 }
-template <int Elements, class T>
+template <int Elements, class Stores, class T>
 PXL_INLINE void storeGroups(const Vec<T> (&v)[4], T* p) {
     if constexpr (Elements == 3) {
-        StoreGroups3(v[0], v[1], v[2], v[3], p);
+        StoreGroups3<Stores>(v[0], v[1], v[2], v[3], p);
     } else {
-        for (int i = 0; i < 4; ++i) StoreU(v[i], p + i * lanes<T>);
+#pragma GCC unroll 4
+        for (int i = 0; i < 4; ++i) Stores::store(v[i], p + i * lanes<T>);
     }
 }
 
 // change(source, old) makes blocks of the destination from blocks of the source; old is what the destination held, where the
 // form keeps any of it.
-template <class T, GroupForm Form, class Change>
+template <class T, GroupForm Form, class Stores, class Change>
 PXL_INLINE void changeGroups(const T* s, T* d, Change change) {
     Vec<T> v[4];
     loadGroups<Form.srcElements>(s, v);
+#pragma GCC unroll 4
     for (int i = 0; i < 4; ++i) v[i] = change(v[i], Form.keepsOld ? LoadU(d + i * lanes<T>) : Zero<T>());
-    storeGroups<Form.dstElements>(v, d);
+    storeGroups<Form.dstElements, Stores>(v, d);
 }
 
 template <class T, GroupForm Form, class Change>
@@ -76,27 +79,41 @@ inline void changePixels(ptrdiff_t n, const T* s, T* d, Change change) {
 }
 
 template <class T, GroupForm Form, class Change>
-PXL_INLINE void ownChangeRow(ptrdiff_t n, const T* s, T* d, Change change) {
+PXL_INLINE void ownChangeRow(ptrdiff_t n, const T* s, T* d, bool streamed, Change change) {
     constexpr int group = groupPixels<T>;
     constexpr int block = 4 * vecGroups * group;
     if (n < group) return changePixels<T, Form>(n, s, d, change);
     const auto source = [&](ptrdiff_t x) {
         return loadGroup<T, Form.srcElements, Form.srcRead()>(s + x * Form.srcElements);
     };
-    // The last group, which may share pixels with the one before, is loaded before anything is stored.
-    const Vec<T> last = source(n - group);
+    // What is left of a group at the end is done with the pixels before it, which are loaded before anything is stored.
+    Vec<T> last = Zero<T>();
+    if (n % group != 0) last = source(n - group);
     const ptrdiff_t readable = Form.srcRead() == Form.srcElements ? n : n - 1;
-    const auto changeBlock = [&](ptrdiff_t x) {
-        changeGroups<T, Form>(s + x * Form.srcElements, d + x * Form.dstElements, change);
+    const auto changeBlock = [&]<class Stores>(ptrdiff_t x, Stores) {
+        changeGroups<T, Form, Stores>(s + x * Form.srcElements, d + x * Form.dstElements, change);
     };
     ptrdiff_t x = 0;
-    for (; x + block <= readable; x += block) changeBlock(x);
+    if constexpr (!Form.keepsOld)
+        for (; streamed && x + block <= readable; x += block) changeBlock(x, Streamed{});
+    for (; x + block <= readable; x += block) changeBlock(x, Cached{});
     if (x > 0 && readable - x > 2 * group && s != d) {
-        changeBlock(readable - block);
-        x = readable;
+        changeBlock(readable - block, Cached{});
+        x = readable == n ? n : n - group;
     }
-    for (; x + group < n; x += group) changeGroup<T, Form>(source(x), d + x * Form.dstElements, change);
+    for (; x + group <= n; x += group) changeGroup<T, Form>(source(x), d + x * Form.dstElements, change);
     if (x < n) changeGroup<T, Form>(last, d + (n - group) * Form.dstElements, change);
+}
+
+// Walks a region; change as above.
+template <class T, GroupForm Form, class Change>
+inline void walkGroups(ImageSize roi, Change change, const T* src, int srcStep, T* dst, int dstStep) {
+    const auto s = operand(src, srcStep, Form.srcElements);
+    const auto d = operand(dst, dstStep, Form.dstElements);
+    const bool streamed = !Form.keepsOld && src != dst && isStreamed(roi, s, d);
+    const auto row = [=](ptrdiff_t n, const T* from, T* to) { ownChangeRow<T, Form>(n, from, to, streamed, change); };
+    walk(roi, row, s, d);
+    finishStreamed(streamed);
 }
 
 } // namespace pxl::PXL_TARGET

@@ -1,11 +1,11 @@
 // Mirror: rows in reverse order (axis 0), columns in reverse order (1) or both (2).
 //
-// Pixels move whole, so the work is done on pixels of `Bytes` bytes, whatever their elements are. Of an AC4 pixel only the
-// first `Moved` bytes change places: its alpha is written back with the value it had, and the alpha of the last source pixel
-// of a row, which may lie outside the caller's memory, is not read.
+// Pixels move whole, so the work is done on pixels of `Bytes` bytes, whatever their elements are. Of an AC4 pixel only
+// the first `Moved` bytes change places: its alpha is written back with the value it had, and the alpha of the last
+// source pixel of a row, which may lie outside the caller's memory, is not read.
 //
-// The in-place form exchanges two disjoint rows, or the two halves of a row, through a small buffer, so both forms share the
-// row moves. Rows that overlap in any other way are moved pixel by pixel, source rows in ascending order.
+// The in-place form exchanges two disjoint rows, or the two halves of a row, through a small buffer, so both forms
+// share the row moves. Rows that overlap in any other way are moved pixel by pixel, source rows in ascending order.
 #include "frame/checks.h"
 #include "frame/pixel.h"
 #include "frame/vec.h"
@@ -21,7 +21,8 @@ template <int Bytes, int Moved>
 struct MovedBytes {
     alignas(vecBytes) uint8_t mask[vecBytes];
     constexpr MovedBytes() : mask() {
-        for (int i = 0; i < vecBytes; ++i) mask[i] = i % Bytes < Moved ? 0xFF : 0;
+        for (int i = 0; i < vecBytes; ++i)
+            mask[i] = i % Bytes < Moved ? 0xFF : 0;
     }
 };
 
@@ -39,9 +40,9 @@ PXL_INLINE __m128i keepingAlpha(__m128i v, const uint8_t* d) {
     return _mm_or_si128(_mm_and_si128(mask, v), _mm_andnot_si128(mask, loadWord<__m128i>(d)));
 }
 
-// Fills a run of at least one register with make(x), the register at x. The last one may overlap the one before: the rows
-// are disjoint, so that its bytes come out the same. It is made first, since it could not load what has just been stored
-// without waiting for it.
+// Fills a run of at least one register with make(x), the register at x. The last one may overlap the one before: the
+// rows are disjoint, so that its bytes come out the same. It is made first, since it could not load what has just been
+// stored without waiting for it.
 template <class Make>
 PXL_INLINE void byRegisters(uint8_t* d, ptrdiff_t bytes, Make&& make) {
     const Vec<uint8_t> last = make(bytes - vecBytes);
@@ -52,7 +53,8 @@ PXL_INLINE void byRegisters(uint8_t* d, ptrdiff_t bytes, Make&& make) {
         StoreU(make(x + 2 * vecBytes), d + x + 2 * vecBytes);
         StoreU(make(x + 3 * vecBytes), d + x + 3 * vecBytes);
     }
-    for (; x + vecBytes < bytes; x += vecBytes) StoreU(make(x), d + x);
+    for (; x + vecBytes < bytes; x += vecBytes)
+        StoreU(make(x), d + x);
     if (x < bytes) StoreU(last, d + bytes - vecBytes);
 }
 
@@ -65,12 +67,19 @@ PXL_INLINE void byEnds(uint8_t* d, ptrdiff_t bytes, Make&& make) {
     storeWord(last, d + bytes - sizeof last);
 }
 
-// ---- rows as they are --------------------------------------------------------------------------------------------------
+// ---- rows as they are -----------------------------------------------------------------------------------------------
 
+PXL_INLINE void copyShortRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+    if (bytes < vecBytes)
+        copyFew<vecBytes>(d, s, static_cast<size_t>(bytes));
+    else
+        byRegisters(d, bytes, [=](ptrdiff_t x) { return LoadU(s + x); });
+}
 PXL_INLINE void copyRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
-    if (bytes < vecBytes) return copyFew<vecBytes>(d, s, static_cast<size_t>(bytes));
-    if (bytes > 4096) return static_cast<void>(std::memcpy(d, s, static_cast<size_t>(bytes)));
-    byRegisters(d, bytes, [=](ptrdiff_t x) { return LoadU(s + x); });
+    if (bytes <= 4096)
+        copyShortRow(s, d, bytes);
+    else
+        std::memcpy(d, s, static_cast<size_t>(bytes));
 }
 
 // The last pixel is moved by itself.
@@ -82,11 +91,12 @@ PXL_INLINE void copyRowKeepingAlpha(const uint8_t* s, uint8_t* d, ptrdiff_t byte
     else if (last >= 16)
         byEnds(d, last, [=](ptrdiff_t x) { return keepingAlpha<Bytes, Moved>(loadWord<__m128i>(s + x), d + x); });
     else
-        for (ptrdiff_t x = 0; x < last; x += Bytes) movePixel<Moved>(s + x, d + x);
+        for (ptrdiff_t x = 0; x < last; x += Bytes)
+            movePixel<Moved>(s + x, d + x);
     movePixel<Moved>(s + last, d + last);
 }
 
-// ---- rows with their pixels in reverse order ---------------------------------------------------------------------------
+// ---- rows with their pixels in reverse order ------------------------------------------------------------------------
 
 template <int Bytes>
 PXL_INLINE void reverseRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
@@ -98,7 +108,8 @@ PXL_INLINE void reverseRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
             return byEnds(d, bytes, [=](ptrdiff_t x) { return reverseBlocks<Bytes>(loadWord<__m128i>(end - 16 - x)); });
     if constexpr (Bytes < 8)
         if (bytes >= 8) return byEnds(d, bytes, [=](ptrdiff_t x) { return loadReversed8<Bytes>(end - 8 - x); });
-    for (ptrdiff_t x = 0; x < bytes; x += Bytes) movePixel<Bytes>(end - Bytes - x, d + x);
+    for (ptrdiff_t x = 0; x < bytes; x += Bytes)
+        movePixel<Bytes>(end - Bytes - x, d + x);
 }
 
 // The first pixel is moved by itself, since behind it in the source there may be nothing to load.
@@ -116,7 +127,8 @@ PXL_INLINE void reverseRowKeepingAlpha(const uint8_t* s, uint8_t* d, ptrdiff_t b
         return byEnds(d, bytes, [=](ptrdiff_t x) {
             return keepingAlpha<Bytes, Moved>(reverseBlocks<Bytes>(loadWord<__m128i>(end - 16 - x)), d + x);
         });
-    for (ptrdiff_t x = 0; x < bytes; x += Bytes) movePixel<Moved>(end - Bytes - x, d + x);
+    for (ptrdiff_t x = 0; x < bytes; x += Bytes)
+        movePixel<Moved>(end - Bytes - x, d + x);
 }
 
 // Pixels of 3, 6 and 12 bytes.
@@ -126,36 +138,32 @@ PXL_INLINE void reverseRowOfThrees(const uint8_t* s, uint8_t* d, ptrdiff_t bytes
     ptrdiff_t x = 0;
 #ifdef __AVX2__
     if (bytes >= 96) {
-        for (; x + 96 <= bytes; x += 96) storeReversed96<Bytes>(end - x - 96, d + x);
+        for (; x + 96 <= bytes; x += 96)
+            storeReversed96<Bytes>(end - x - 96, d + x);
         if (x < bytes) storeReversed96<Bytes>(s, d + bytes - 96);
         return;
     }
     if constexpr (Bytes < 12)
-        for (; x + 16 <= bytes; x += 16 / Bytes * Bytes) storeReversed16<Bytes>(end - x - 16, d + x);
+        for (; x + 16 <= bytes; x += 16 / Bytes * Bytes)
+            storeReversed16<Bytes>(end - x - 16, d + x);
 #endif
     constexpr ptrdiff_t word = sizeof(typename PixelWord<Bytes>::type);
-    for (; x + word <= bytes; x += Bytes) storePixelWord<Bytes>(end - x - word, d + x);
-    for (; x < bytes; x += Bytes) movePixel<Bytes>(end - x - Bytes, d + x);
+    for (; x + word <= bytes; x += Bytes)
+        storePixelWord<Bytes>(end - x - word, d + x);
+    for (; x < bytes; x += Bytes)
+        movePixel<Bytes>(end - x - Bytes, d + x);
 }
 
-// ---- regions -----------------------------------------------------------------------------------------------------------
+// ---- regions --------------------------------------------------------------------------------------------------------
 
-// Rows that are moved alike; no destination row meets a source row.
-struct Rows {
-    const uint8_t* s;
-    ptrdiff_t srcStep;
-    uint8_t* d;
-    ptrdiff_t dstStep;
-    ptrdiff_t bytes;
-    ptrdiff_t count;
-};
-using MoveRows = void (*)(const Rows&);
+// Moves rows of so many bytes alike; no destination row meets a source row.
+using MoveRows = void (*)(const uint8_t* s, ptrdiff_t srcStep, uint8_t* d, ptrdiff_t dstStep, ptrdiff_t bytes,
+                          ptrdiff_t rows);
 
 template <void (*Row)(const uint8_t*, uint8_t*, ptrdiff_t)>
-void eachRow(const Rows& rows) {
-    const uint8_t* s = rows.s;
-    uint8_t* d = rows.d;
-    for (ptrdiff_t y = 0; y < rows.count; ++y, s += rows.srcStep, d += rows.dstStep) Row(s, d, rows.bytes);
+void eachRow(const uint8_t* s, ptrdiff_t srcStep, uint8_t* d, ptrdiff_t dstStep, ptrdiff_t bytes, ptrdiff_t rows) {
+    for (ptrdiff_t y = 0; y < rows; ++y, s += srcStep, d += dstStep)
+        Row(s, d, bytes);
 }
 
 template <int Bytes, int Moved>
@@ -177,25 +185,28 @@ bool meet(const uint8_t* a, const uint8_t* b, ptrdiff_t bytes) {
 
 template <int Bytes, int Moved>
 void moveOverlapping(const uint8_t* s, uint8_t* d, ptrdiff_t width, bool reversed) {
-    for (ptrdiff_t x = 0; x < width; ++x) movePixel<Moved>(s + (reversed ? width - 1 - x : x) * Bytes, d + x * Bytes);
+    for (ptrdiff_t x = 0; x < width; ++x)
+        movePixel<Moved>(s + (reversed ? width - 1 - x : x) * Bytes, d + x * Bytes);
 }
 
 template <int Bytes, int Moved>
-void mirror(Operand<const uint8_t> src, Operand<uint8_t> dst, ImageSize roi, PxlAxis flip) {
+void mirror(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ImageSize roi, PxlAxis flip) {
     const bool reversed = flip != PXL_AXIS_HORIZONTAL;
     const MoveRows move = moveRows<Bytes, Moved>(reversed);
-    if (flip != PXL_AXIS_VERTICAL) dst = {dst.at(0, roi.height - 1), -dst.step, dst.pixelBytes};
     const ptrdiff_t bytes = static_cast<ptrdiff_t>(roi.width) * Bytes;
-    if (!extentOf(src, roi.width, roi.height).meets(extentOf(dst, roi.width, roi.height)))
-        return move({src.base, src.step, dst.base, dst.step, bytes, roi.height});
-    for (ptrdiff_t y = 0; y < roi.height; ++y) {
-        const uint8_t* s = src.at(0, y);
-        uint8_t* d = dst.at(0, y);
-        if (meet(s, d, bytes))
-            moveOverlapping<Bytes, Moved>(s, d, roi.width, reversed);
-        else
-            move({s, 0, d, 0, bytes, 1});
+    if (flip != PXL_AXIS_VERTICAL) {
+        dst += (roi.height - 1) * dstStep;
+        dstStep = -dstStep;
     }
+    const Operand<const uint8_t> read = {src, srcStep, Bytes};
+    const Operand<uint8_t> written = {dst, dstStep, Bytes};
+    if (!extentOf(read, roi.width, roi.height).meets(extentOf(written, roi.width, roi.height)))
+        return move(src, srcStep, dst, dstStep, bytes, roi.height);
+    for (ptrdiff_t y = 0; y < roi.height; ++y, src += srcStep, dst += dstStep)
+        if (meet(src, dst, bytes))
+            moveOverlapping<Bytes, Moved>(src, dst, roi.width, reversed);
+        else
+            move(src, 0, dst, 0, bytes, 1);
 }
 
 // Exchanges two disjoint rows, or halves of one. Reversed, the beginning of one meets the end of the other.
@@ -205,9 +216,9 @@ void exchange(uint8_t* a, uint8_t* b, ptrdiff_t bytes, MoveRows move, bool rever
     for (ptrdiff_t n; bytes > 0; bytes -= n, a += n) {
         n = bytes < chunk ? bytes : chunk;
         uint8_t* other = reversed ? b + bytes - n : b;
-        copyRow(a, held, n);
-        move({other, 0, a, 0, n, 1});
-        move({held, 0, other, 0, n, 1});
+        copyShortRow(a, held, n);
+        move(other, 0, a, 0, n, 1);
+        move(held, 0, other, 0, n, 1);
         if (!reversed) b += n;
     }
 }
@@ -219,41 +230,37 @@ void exchangeOverlapping(uint8_t* a, uint8_t* b, ptrdiff_t width, bool reversed)
 }
 
 template <int Bytes, int Moved>
-void mirrorInPlace(Operand<uint8_t> image, ImageSize roi, PxlAxis flip) {
+void mirrorInPlace(uint8_t* image, ptrdiff_t step, ImageSize roi, PxlAxis flip) {
     const bool reversed = flip != PXL_AXIS_HORIZONTAL;
     const MoveRows move = moveRows<Bytes, Moved>(reversed);
     const ptrdiff_t bytes = static_cast<ptrdiff_t>(roi.width) * Bytes;
     const ptrdiff_t half = roi.width / 2 * static_cast<ptrdiff_t>(Bytes);
-    const auto reverseHalves = [&](uint8_t* row) { exchange(row, row + bytes - half, half, move, true); };
+    const auto reverseHalves = [=](uint8_t* row) { exchange(row, row + bytes - half, half, move, true); };
     if (flip == PXL_AXIS_VERTICAL) {
-        for (ptrdiff_t y = 0; y < roi.height; ++y) reverseHalves(image.at(0, y));
+        for (ptrdiff_t y = 0; y < roi.height; ++y, image += step)
+            reverseHalves(image);
         return;
     }
-    for (ptrdiff_t y = 0; y < roi.height / 2; ++y) {
-        uint8_t* a = image.at(0, y);
-        uint8_t* b = image.at(0, roi.height - 1 - y);
-        if (meet(a, b, bytes))
-            exchangeOverlapping<Bytes, Moved>(a, b, roi.width, reversed);
+    uint8_t* other = image + (roi.height - 1) * step;
+    for (ptrdiff_t y = 0; y < roi.height / 2; ++y, image += step, other -= step)
+        if (meet(image, other, bytes))
+            exchangeOverlapping<Bytes, Moved>(image, other, roi.width, reversed);
         else
-            exchange(a, b, bytes, move, reversed);
-    }
-    if (reversed && roi.height % 2) reverseHalves(image.at(0, roi.height / 2));
+            exchange(image, other, bytes, move, reversed);
+    if (reversed && roi.height % 2) reverseHalves(image);
 }
 
-// ---- entries -----------------------------------------------------------------------------------------------------------
+// ---- entries --------------------------------------------------------------------------------------------------------
 
-bool isAxis(PxlAxis flip) {
-    return flip == PXL_AXIS_HORIZONTAL || flip == PXL_AXIS_VERTICAL || flip == PXL_AXIS_BOTH;
-}
+bool isAxis(PxlAxis flip) { return flip == PXL_AXIS_HORIZONTAL || flip == PXL_AXIS_VERTICAL || flip == PXL_AXIS_BOTH; }
 
 template <class T, int Elements, int Channels>
 PxlStatus Mirror(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, PxlAxis flip) {
     if (anyNull(src, dst)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
     if (!isAxis(flip)) return PXL_E_MIRROR_AXIS;
-    constexpr int pixel = Elements * sizeof(T);
-    mirror<pixel, Channels * sizeof(T)>(operand(reinterpret_cast<const uint8_t*>(src), srcStep, pixel),
-                                        operand(reinterpret_cast<uint8_t*>(dst), dstStep, pixel), roi, flip);
+    mirror<Elements * sizeof(T), Channels * sizeof(T)>(reinterpret_cast<const uint8_t*>(src), srcStep,
+                                                       reinterpret_cast<uint8_t*>(dst), dstStep, roi, flip);
     return PXL_OK;
 }
 
@@ -262,8 +269,7 @@ PxlStatus MirrorInPlace(T* srcDst, int step, ImageSize roi, PxlAxis flip) {
     if (anyNull(srcDst)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
     if (!isAxis(flip)) return PXL_E_MIRROR_AXIS;
-    constexpr int pixel = Elements * sizeof(T);
-    mirrorInPlace<pixel, Channels * sizeof(T)>(operand(reinterpret_cast<uint8_t*>(srcDst), step, pixel), roi, flip);
+    mirrorInPlace<Elements * sizeof(T), Channels * sizeof(T)>(reinterpret_cast<uint8_t*>(srcDst), step, roi, flip);
     return PXL_OK;
 }
 

@@ -1,9 +1,9 @@
-// Scale: the whole range of the source type mapped linearly onto the whole range of the destination type, where 32f stands
-// for vMin..vMax.
+// Scale: the whole range of the source type mapped linearly onto the whole range of the destination type, where 32f
+// stands for vMin..vMax.
 //
-// Integer types: the spans divide without remainder (65535 = 257 * 255 and 4294967295 = 16843009 * 255), so widening repeats
-// the byte, and narrowing divides by an odd number: no value lies half way and rounding to nearest leaves no choice.
-// 32f8u: the formula is applied literally in single precision; see FromFloat for the ends of the range.
+// Integer types: the spans divide without remainder (65535 = 257 * 255 and 4294967295 = 16843009 * 255), so widening
+// repeats the byte, and narrowing divides by an odd number: no value lies half way and rounding to nearest leaves no
+// choice. 32f8u: the formula is applied literally in single precision; see FromFloat for the ends of the range.
 #include "exchange/conversion.h"
 #include "exchange/rounding.h"
 
@@ -24,14 +24,10 @@ struct RepeatByte {
     }
 };
 
+// (u + 128) / 257 for u = 0..65535 above the minimum of S. 65281 / 2^24 is 1 / 257 with an error that no 17-bit number
+// can see, and where the sum saturates the quotient is 255 either way.
 template <class S>
-struct NarrowToByte;
-
-// (u + 128) / 257 for u = 0..65535 above the minimum of S. 65281 / 2^24 is 1 / 257 with an error that no 17-bit number can
-// see, and where the sum saturates the quotient is 255 either way.
-template <class S>
-    requires(sizeof(S) == 2)
-struct NarrowToByte<S> {
+struct NarrowToByte {
     using Source = S;
     using Result = uint8_t;
     using Lane = int16_t;
@@ -44,8 +40,8 @@ struct NarrowToByte<S> {
     }
 };
 
-// v / 16843009 rounded down, plus 128. With b = 16843009 the multiples of b are k * 2^24 + (k * b >> 8), so taking v >> 8
-// from v leaves the quotient in the upper byte; negative values sit one higher.
+// v / 16843009 rounded down, plus 128. With b = 16843009, k * b is k * 2^24 + (k * b >> 8), so without its own v >> 8 a
+// v has the quotient in its upper byte; negative values sit one too high.
 template <>
 struct NarrowToByte<int32_t> {
     using Source = int32_t;
@@ -91,14 +87,16 @@ struct FromFloat {
     Line line;
 
     PXL_INLINE Vec<int32_t> operator()(Vec<float> x) const {
-        const Vec<float> onLine = tiesToEven(line.at(x));
-        const Vec<int32_t> v = NearestInt(Min(Set<float>(255.0f), onLine)); // NaN: the minimum of 32s, narrowed to 0
-        const Vec<int32_t> above0 = IfThenElseZero(x > Set<float>(vMin), v);
-        return IfThenElse(x < Set<float>(vMax), above0, Set<int32_t>(255));
+        const Vec<float> onLine = Max(tiesToEven(line.at(x)), Zero<float>()); // NaN becomes 0
+        const Vec<float> above0 = IfThenElseZero(x > Set<float>(vMin), onLine);
+        const Mask<float> below255 = x < Set<float>(vMax);
+        const Vec<float> or255 = above0 | BitCast<float>(~below255); // a NaN outside
+        return NearestInt(Min(or255, Set<float>(255.0f)));           // and now 255
     }
 };
 
-// The same where the line covers all x by itself.
+// The same on a line that reaches both ends by itself: only NaN is left to become 255.
+template <bool WithTies>
 struct FromFloatSteady {
     using Source = float;
     using Result = uint8_t;
@@ -106,96 +104,66 @@ struct FromFloatSteady {
     Line line;
 
     PXL_INLINE Vec<int32_t> operator()(Vec<float> x) const {
-        return NearestInt(Min(line.at(x), Set<float>(255.0f))); // NaN: 255
+        const Vec<float> onLine = WithTies ? tiesToEven(line.at(x)) : line.at(x);
+        return NearestInt(Min(onLine, Set<float>(255.0f)));
     }
 };
 
 inline bool isFinite(float x) { return x - x == 0.0f; }
-inline float magnitudeOf(float x) { return x < 0.0f ? -x : x; }
 
-// Whether a line can do without the bounds and without care for the one value that rounds differently.
-//   - It rises, its roundings included, so one look at each end covers all that lies beyond. Bounds close together and far
-//     from 0 lose the ends to cancellation; extreme ones overflow.
-//   - With an origin of 2 or more, what adds up to about 0.5 has magnitudes of 1.5 or more: the sum is exact and a multiple of
-//     2^-23, so it is not 0.5 + 2^-24. With an origin of 0, the sum that is not needed makes the adjustment.
-inline bool makeSteady(Line& line, float vMin, float vMax) {
+// The line rises, its roundings included, so one look at each end covers all that lies beyond. Bounds close together
+// and far from 0 lose the ends to cancellation; extreme ones overflow.
+inline bool isSteady(Line line, float vMin, float vMax) {
     if (!isFinite(line.slope) || !isFinite(line.origin) || !(line.slope > 0.0f)) return false;
-    if (line.origin == 0.0f)
-        line.origin = -tieReach;
-    else if (magnitudeOf(line.origin) < 2.0f)
-        return false;
     return line.at(vMin) <= 0.5f && line.at(vMax) > 254.5f;
 }
 
-template <class D, int Elements>
+// Whether tiesToEven would change nothing. With an origin of 2 or more, what adds up to about 0.5 has magnitudes of 1.5
+// or more: the sum is exact and a multiple of 2^-23, so it is never the one value that matters.
+inline bool isFarFrom0(float origin) { return origin >= 2.0f || origin <= -2.0f; }
+
+template <class D, int Elements, int Channels>
 PxlStatus ScaleWiden(const uint8_t* src, int srcStep, D* dst, int dstStep, ImageSize roi) {
-    const PxlStatus status = checkConversion<Elements>(src, srcStep, dst, dstStep, roi);
+    const PxlStatus status = checkConversion<Elements, Channels>(src, srcStep, dst, dstStep, roi);
     if (status != PXL_OK) return status;
-    return convertElements(RepeatByte<D>(), src, srcStep, dst, dstStep, roi, Elements);
+    return convertRegion<Elements, Channels>(RepeatByte<D>(), src, srcStep, dst, dstStep, roi);
 }
 
-template <class D>
-PxlStatus ScaleWidenColour(const uint8_t* src, int srcStep, D* dst, int dstStep, ImageSize roi) {
-    const PxlStatus status = checkConversion<1>(src, srcStep, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
-    return convertColours(RepeatByte<D>(), src, srcStep, dst, dstStep, roi);
-}
-
-// Every hint gives the same, exact, result: the single-precision formula that hint 2 stands for in 16s8u agrees with it.
-template <class S, int Elements>
+// Every hint gives the same result, the exact one. So does the single-precision formula that hint 2 stands for in
+// 16s8u.
+template <class S, int Elements, int Channels>
 PxlStatus ScaleNarrow(const S* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roi, int /*hint*/) {
-    const PxlStatus status = checkConversion<Elements>(src, srcStep, dst, dstStep, roi);
+    const PxlStatus status = checkConversion<Elements, Channels>(src, srcStep, dst, dstStep, roi);
     if (status != PXL_OK) return status;
-    return convertElements(NarrowToByte<S>(), src, srcStep, dst, dstStep, roi, Elements);
-}
-
-template <class S>
-PxlStatus ScaleNarrowColour(const S* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roi, int /*hint*/) {
-    const PxlStatus status = checkConversion<1>(src, srcStep, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
-    return convertColours(NarrowToByte<S>(), src, srcStep, dst, dstStep, roi);
+    return convertRegion<Elements, Channels>(NarrowToByte<S>(), src, srcStep, dst, dstStep, roi);
 }
 
 // Tested before anything else, the pointers included. A NaN bound passes.
 inline bool isEmptyRange(float vMin, float vMax) { return vMax - vMin <= 0.0f; }
 
-template <int Elements>
-PxlStatus ScaleToFloat(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roi, float vMin, float vMax) {
+template <int Elements, int Channels>
+PxlStatus ScaleToFloat(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roi, float vMin,
+                       float vMax) {
     if (isEmptyRange(vMin, vMax)) return PXL_E_SCALE_RANGE;
-    const PxlStatus status = checkConversion<Elements>(src, srcStep, dst, dstStep, roi);
+    const PxlStatus status = checkConversion<Elements, Channels>(src, srcStep, dst, dstStep, roi);
     if (status != PXL_OK) return status;
-    return convertElements(ToFloat{(vMax - vMin) / 255.0f, vMin}, src, srcStep, dst, dstStep, roi, Elements);
+    return convertRegion<Elements, Channels>(ToFloat{(vMax - vMin) / 255.0f, vMin}, src, srcStep, dst, dstStep, roi);
 }
 
-PxlStatus ScaleToFloatColour(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roi, float vMin,
-                             float vMax) {
-    if (isEmptyRange(vMin, vMax)) return PXL_E_SCALE_RANGE;
-    const PxlStatus status = checkConversion<1>(src, srcStep, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
-    return convertColours(ToFloat{(vMax - vMin) / 255.0f, vMin}, src, srcStep, dst, dstStep, roi);
-}
-
-template <int Elements>
+template <int Elements, int Channels>
 PxlStatus ScaleFromFloat(const float* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roi, float vMin,
                          float vMax) {
     if (isEmptyRange(vMin, vMax)) return PXL_E_SCALE_RANGE;
-    const PxlStatus status = checkConversion<Elements>(src, srcStep, dst, dstStep, roi);
+    const PxlStatus status = checkConversion<Elements, Channels>(src, srcStep, dst, dstStep, roi);
     if (status != PXL_OK) return status;
-    Line steady = lineOf(vMin, vMax);
-    if (makeSteady(steady, vMin, vMax))
-        return convertElements(FromFloatSteady{steady}, src, srcStep, dst, dstStep, roi, Elements);
-    return convertElements(FromFloat{vMin, vMax, lineOf(vMin, vMax)}, src, srcStep, dst, dstStep, roi, Elements);
-}
-
-PxlStatus ScaleFromFloatColour(const float* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roi, float vMin,
-                               float vMax) {
-    if (isEmptyRange(vMin, vMax)) return PXL_E_SCALE_RANGE;
-    const PxlStatus status = checkConversion<1>(src, srcStep, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
-    Line steady = lineOf(vMin, vMax);
-    if (makeSteady(steady, vMin, vMax))
-        return convertColours(FromFloatSteady{steady}, src, srcStep, dst, dstStep, roi);
-    return convertColours(FromFloat{vMin, vMax, lineOf(vMin, vMax)}, src, srcStep, dst, dstStep, roi);
+    const auto run = [&](auto operation) {
+        return convertRegion<Elements, Channels>(operation, src, srcStep, dst, dstStep, roi);
+    };
+    const Line line = lineOf(vMin, vMax);
+    if (!isSteady(line, vMin, vMax)) return run(FromFloat{vMin, vMax, line});
+    if (line.origin == 0.0f) return run(FromFloatSteady<false>{{line.slope, -tieReach}}); // a sum that costs nothing
+    if (isFarFrom0(line.origin)) return run(FromFloatSteady<false>{line});
+    return run(FromFloatSteady<true>{line});
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 // Fills: every pixel, or every chosen channel, of a region receives the same value.
 //
-// The kernels see pixels of E bytes, whatever their elements are, and fill with patterns of them. Where a fourth element or
-// other channels keep their value, whole registers are rewritten with what they held.
+// The kernels see pixels of E bytes, whatever their elements are, and fill with patterns of them. Where a fourth
+// element or other channels keep their value, whole registers are rewritten with what they held.
 #include "exchange/masked_row.h"
 #include "frame/checks.h"
 #include "frame/vec.h"
@@ -22,7 +22,8 @@ PxlStatus setPixels(const void* value, uint8_t* dst, int dstStep, ImageSize roi)
     if (anyNull(dst, value)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
     const Pattern<E> pattern = patternOf<E>(value);
-    walk(roi, [&](ptrdiff_t n, uint8_t* d) { fillPixels(d, n * E, pattern); }, operand(dst, dstStep, E));
+    walk(
+        roi, [&](ptrdiff_t n, uint8_t* d) { fillPixels(d, n * E, pattern); }, operand(dst, dstStep, E));
     return PXL_OK;
 }
 
@@ -35,24 +36,13 @@ PxlStatus SetElements(T value, T* dst, int dstStep, ImageSize roi) {
     return setPixels<sizeof(T)>(&value, bytesOf(dst), dstStep, roi);
 }
 
-// The three values of an AC4 pixel, and zeros for the fourth element.
-template <class T>
-PXL_INLINE Pattern<4 * sizeof(T)> colourPattern(const T* value) {
-    const T pixel[4] = {load1(value), load1(value + 1), load1(value + 2), 0};
-    return patternOf<4 * sizeof(T)>(pixel);
-}
-template <class T>
-PXL_INLINE Pattern<4 * sizeof(T)> alphaPattern() {
-    return maskPattern<4 * sizeof(T), 3 * sizeof(T), 4 * sizeof(T)>();
-}
-
 template <class T>
 PxlStatus SetColour(const T* value, T* dst, int dstStep, ImageSize roi) {
     if (anyNull(dst, value)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
     constexpr int E = 4 * sizeof(T);
-    const Pattern<E> colour = colourPattern(value);
-    const auto row = [&](ptrdiff_t n, uint8_t* d) { fillPixels(d, n * E, colour, alphaPattern<T>()); };
+    const Pattern<E> colour = colourPattern<E>(value);
+    const auto row = [&](ptrdiff_t n, uint8_t* d) { fillPixels(d, n * E, colour, alphaPattern<E>()); };
     walk(roi, row, operand(bytesOf(dst), dstStep, E));
     return PXL_OK;
 }
@@ -68,19 +58,30 @@ PxlStatus SetChannel(T value, T* dst, int dstStep, ImageSize roi) {
     const auto row = [&](ptrdiff_t n, uint8_t* d) {
         const ptrdiff_t before = (n - 1) * E;
         fillPixels(d, before, channel, maskPattern<E, sizeof(T), E>());
-        put(d + before, value);
+        store1(reinterpret_cast<T*>(d + before), value);
     };
     walk(roi, row, operand(bytesOf(dst), dstStep, E));
     return PXL_OK;
 }
 
-template <int E, class... Always>
-PxlStatus setMasked(const Pattern<E>& value, uint8_t* dst, int dstStep, ImageSize roi, const uint8_t* mask,
-                    int maskStep, const Always&... always) {
-    const PatternSource<E> source{value};
-    const auto row = [&](ptrdiff_t n, uint8_t* d, const uint8_t* m) { blendRow<E>(n, m, d, source, always...); };
-    walk(roi, row, operand(dst, dstStep, E), operand(mask, maskStep));
-    return PXL_OK;
+// ---- masked ---------------------------------------------------------------------------------------------------------
+
+using MaskedRow = void(ptrdiff_t n, uint8_t* d, const uint8_t* m, const void* pattern);
+
+template <int E>
+void setMaskedRow(ptrdiff_t n, uint8_t* d, const uint8_t* m, const void* pattern) {
+    blendRow<E>(n, m, d, PatternSource<E>(pattern));
+}
+
+template <int E>
+void setColourRow(ptrdiff_t n, uint8_t* d, const uint8_t* m, const void* pattern) {
+    blendRow<E>(n, m, d, PatternSource<E>(pattern), alphaPattern<E>());
+}
+
+void setMaskedRows(uint8_t* dst, int dstStep, ImageSize roi, const uint8_t* mask, int maskStep, int pixelBytes,
+                   MaskedRow* row, const void* pattern) {
+    const auto kernel = [=](ptrdiff_t n, uint8_t* d, const uint8_t* m) { row(n, d, m, pattern); };
+    walk(roi, kernel, operand(dst, dstStep, pixelBytes), operand(mask, maskStep));
 }
 
 template <int E>
@@ -88,7 +89,9 @@ PxlStatus setMaskedPixels(const void* value, uint8_t* dst, int dstStep, ImageSiz
                           int maskStep) {
     if (!dst || !value || !mask) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
-    return setMasked<E>(patternOf<E>(value), dst, dstStep, roi, mask, maskStep);
+    const Pattern<E> pattern = patternOf<E>(value);
+    setMaskedRows(dst, dstStep, roi, mask, maskStep, E, setMaskedRow<E>, &pattern);
+    return PXL_OK;
 }
 
 template <class T, int Elements>
@@ -104,7 +107,10 @@ template <class T>
 PxlStatus SetColourMasked(const T* value, T* dst, int dstStep, ImageSize roi, const uint8_t* mask, int maskStep) {
     if (anyNull(dst, value, mask)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
-    return setMasked(colourPattern(value), bytesOf(dst), dstStep, roi, mask, maskStep, alphaPattern<T>());
+    constexpr int E = 4 * sizeof(T);
+    const Pattern<E> colour = colourPattern<E>(value);
+    setMaskedRows(bytesOf(dst), dstStep, roi, mask, maskStep, E, setColourRow<E>, &colour);
+    return PXL_OK;
 }
 
 } // namespace

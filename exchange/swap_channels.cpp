@@ -12,13 +12,10 @@ namespace {
 
 // ---- orders ------------------------------------------------------------------------------------------------------------------
 
-// An order for pixels of four elements; where the destination has three, the last entry is not used.
-struct Order {
-    int32_t from[4];
-
-    static constexpr int32_t fill = 3; // where the source has three elements: writes a value
-    static constexpr int32_t keep = 4; // this and above: the destination keeps its element
-};
+// In the order of three elements to four: writes a value. This and above: keeps the destination's element, as a fourth one
+// that has no entry does.
+constexpr int32_t fill = 3;
+constexpr int32_t keep = 4;
 
 template <int Entries>
 bool isInRange(const int32_t* order, int32_t last) {
@@ -27,31 +24,27 @@ bool isInRange(const int32_t* order, int32_t last) {
     return true;
 }
 
-template <int Entries>
-Order orderOf(const int32_t* entries) {
-    Order order{{Order::keep, Order::keep, Order::keep, Order::keep}};
-    std::memcpy(order.from, entries, Entries * sizeof(int32_t));
-    return order;
-}
-
 // ---- rows --------------------------------------------------------------------------------------------------------------------
 
 #ifdef __AVX2__
 
-// A row kernel: (pixels, source, destination).
-template <class T, GroupForm Form>
-auto swapRow(const Order& order, T value) {
-    return [lookup = OrderLookup<T, Form.srcElements, Form.dstElements>(order.from, value)](ptrdiff_t n, const T* s, T* d) {
-        ownChangeRow<T, Form>(n, s, d, [&](Vec<T> source, Vec<T> old) {
-            Vec<T> pixels = lookup(source);
-            if constexpr (Form.srcElements < Form.dstElements) pixels = pixels | lookup.value;
-            if constexpr (Form.keepsOld) pixels = pixels | (old & lookup.keep);
-            return pixels;
-        });
+template <class T, GroupForm Form, int Entries>
+void ownSwap(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const int32_t* dstOrder, T value = 0) {
+    const OrderLookup<T, Form.srcElements, Form.dstElements, Entries> lookup(dstOrder, value);
+    const auto change = [=](Vec<T> source, Vec<T> old) {
+        Vec<T> pixels = lookup(source);
+        if constexpr (Form.srcElements < Form.dstElements) pixels = pixels | lookup.value;
+        if constexpr (Form.keepsOld) pixels = pixels | (old & lookup.keep);
+        return pixels;
     };
+    walkGroups<T, Form>(roi, change, src, srcStep, dst, dstStep);
 }
 
 #else
+
+struct Order {
+    int32_t from[4] = {keep, keep, keep, keep};
+};
 
 template <class T, GroupForm Form>
 void swapPixels(ptrdiff_t n, const T* s, T* d, const Order& order, T value) {
@@ -59,48 +52,47 @@ void swapPixels(ptrdiff_t n, const T* s, T* d, const Order& order, T value) {
         T source[4] = {value, value, value, value};
         std::memcpy(source, s, Form.srcRead() * sizeof(T));
         for (int k = 0; k < Form.dstElements; ++k)
-            if (!Form.keepsOld || order.from[k] < Order::keep) store1(d + k, source[order.from[k]]);
+            if (!Form.keepsOld || order.from[k] < keep) store1(d + k, source[order.from[k]]);
     }
 }
 
 // As many pixels as a vector has lanes.
 template <class T, GroupForm Form>
-PXL_INLINE void swapChannels(const T* s, T* d, const Order& order, T value) {
-    Vec<T> source[4] = {{}, {}, {}, Set<T>(value)};
-    if constexpr (Form.srcElements == 3)
-        LoadInterleaved3(s, source[0], source[1], source[2]);
-    else
-        LoadInterleaved4(s, source[0], source[1], source[2], source[3]);
-    Vec<T> old[4];
-    if constexpr (Form.keepsOld) LoadInterleaved4(d, old[0], old[1], old[2], old[3]);
-    const auto channel = [&](int k) {
-        return Form.keepsOld && order.from[k] >= Order::keep ? old[k] : source[order.from[k]];
-    };
-    if constexpr (Form.dstElements == 3)
-        StoreInterleaved3(channel(0), channel(1), channel(2), d);
-    else
-        StoreInterleaved4(channel(0), channel(1), channel(2), channel(3), d);
+PXL_INLINE void swapVectors(const T* s, T* d, const Order& order, T value) {
+    Vec<T> pixels[Form.srcElements];
+    loadPixels<lanes<T>>(s, pixels);
+    deinterleave(pixels);
+    Vec<T> source[4] = {pixels[0], pixels[1], pixels[2], Set<T>(value)};
+    if constexpr (Form.srcElements == 4) source[3] = pixels[3];
+    Vec<T> swapped[Form.dstElements];
+    if constexpr (Form.keepsOld) {
+        loadPixels<lanes<T>>(d, swapped);
+        deinterleave(swapped);
+    }
+    for (int k = 0; k < Form.dstElements; ++k)
+        if (!Form.keepsOld || order.from[k] < keep) swapped[k] = source[order.from[k]];
+    interleave(swapped);
+    storePixels<lanes<T>>(swapped, d);
 }
 
-// A row kernel: (pixels, source, destination).
 template <class T, GroupForm Form>
-auto swapRow(const Order& order, T value) {
-    return [order, value](ptrdiff_t n, const T* s, T* d) {
-        const ptrdiff_t readable = Form.srcRead() == Form.srcElements ? n : n - 1;
-        ptrdiff_t x = 0;
-        for (; x + lanes<T> <= readable; x += lanes<T>)
-            swapChannels<T, Form>(s + x * Form.srcElements, d + x * Form.dstElements, order, value);
-        swapPixels<T, Form>(n - x, s + x * Form.srcElements, d + x * Form.dstElements, order, value);
-    };
+PXL_INLINE void ownSwapRow(ptrdiff_t n, const T* s, T* d, const Order& order, T value) {
+    const ptrdiff_t readable = Form.srcRead() == Form.srcElements ? n : n - 1;
+    ptrdiff_t x = 0;
+    for (; x + lanes<T> <= readable; x += lanes<T>)
+        swapVectors<T, Form>(s + x * Form.srcElements, d + x * Form.dstElements, order, value);
+    swapPixels<T, Form>(n - x, s + x * Form.srcElements, d + x * Form.dstElements, order, value);
+}
+
+template <class T, GroupForm Form, int Entries>
+void ownSwap(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const int32_t* dstOrder, T value = 0) {
+    Order order;
+    std::memcpy(order.from, dstOrder, Entries * sizeof(int32_t));
+    const auto row = [=](ptrdiff_t n, const T* s, T* d) { ownSwapRow<T, Form>(n, s, d, order, value); };
+    walk(roi, row, operand(src, srcStep, Form.srcElements), operand(dst, dstStep, Form.dstElements));
 }
 
 #endif
-
-template <class T, GroupForm Form>
-void ownSwap(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const Order& order, T value = 0) {
-    walk(roi, swapRow<T, Form>(order, value), operand(src, srcStep, Form.srcElements),
-         operand(dst, dstStep, Form.dstElements));
-}
 
 // ---- members -----------------------------------------------------------------------------------------------------------------
 
@@ -112,7 +104,7 @@ PxlStatus SwapChannels(const T* src, int srcStep, T* dst, int dstStep, ImageSize
     if (isEmpty(roi)) return PXL_E_SIZE;
     if (anyStepBelow1(srcStep, dstStep)) return PXL_E_STEP;
     if (!isInRange<3>(dstOrder, 2)) return PXL_E_CHANNEL_ORDER;
-    ownSwap<T, form>(src, srcStep, dst, dstStep, roi, orderOf<3>(dstOrder));
+    ownSwap<T, form, 3>(src, srcStep, dst, dstStep, roi, dstOrder);
     return PXL_OK;
 }
 
@@ -128,7 +120,7 @@ PxlStatus SwapChannelsInPlace4(T* srcDst, int step, ImageSize roi, const int32_t
     if (anyStepBelow1(step)) return PXL_E_STEP; // before the size, unlike the other members
     if (isEmpty(roi)) return PXL_E_SIZE;
     if (!isInRange<4>(dstOrder, 3)) return PXL_E_CHANNEL_ORDER;
-    ownSwap<T, form>(srcDst, step, srcDst, step, roi, orderOf<4>(dstOrder));
+    ownSwap<T, form, 4>(srcDst, step, srcDst, step, roi, dstOrder);
     return PXL_OK;
 }
 
@@ -140,11 +132,10 @@ PxlStatus SwapChannels3To4(const T* src, int srcStep, T* dst, int dstStep, Image
     if (anyNull(src, dst, dstOrder)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
     if (!isInRange<4>(dstOrder, INT32_MAX)) return PXL_E_CHANNEL_ORDER;
-    const Order order = orderOf<4>(dstOrder);
-    if (isInRange<4>(dstOrder, Order::fill))
-        ownSwap<T, form>(src, srcStep, dst, dstStep, roi, order, value);
+    if (isInRange<4>(dstOrder, fill))
+        ownSwap<T, form, 4>(src, srcStep, dst, dstStep, roi, dstOrder, value);
     else
-        ownSwap<T, keeping>(src, srcStep, dst, dstStep, roi, order, value);
+        ownSwap<T, keeping, 4>(src, srcStep, dst, dstStep, roi, dstOrder, value);
     return PXL_OK;
 }
 
@@ -154,7 +145,7 @@ PxlStatus SwapChannels4To3(const T* src, int srcStep, T* dst, int dstStep, Image
     if (anyNull(src, dst, dstOrder)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
     if (!isInRange<3>(dstOrder, 3)) return PXL_E_CHANNEL_ORDER;
-    ownSwap<T, form>(src, srcStep, dst, dstStep, roi, orderOf<3>(dstOrder));
+    ownSwap<T, form, 3>(src, srcStep, dst, dstStep, roi, dstOrder);
     return PXL_OK;
 }
 
@@ -162,7 +153,11 @@ PxlStatus SwapChannels4To3(const T* src, int srcStep, T* dst, int dstStep, Image
 
 template <class T>
 void ownDuplicateRow(ptrdiff_t n, const T* s, T* d) {
-    const auto part = [&]<int P>(Part<P>, ptrdiff_t x) { StoreRepeated3<T, P>(LoadPart<P>(s + x), d + x * 3); };
+    const auto part = [&]<int P>(Part<P>, ptrdiff_t x) {
+        Vec<T> pixels[3];
+        repeatChannel3(LoadPart<P>(s + x), pixels);
+        storePixels<P>(pixels, d + x * 3);
+    };
     if (rowByParts<lanes<T>, leastPart<T>>(n, part)) return;
     for (ptrdiff_t x = 0; x < n; ++x) {
         const T value = load1(s + x);

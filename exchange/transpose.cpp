@@ -1,11 +1,12 @@
 // Transpose: destination pixel (j, i) is source pixel (i, j).
 //
-// A region is cut into tiles whose rows are about a cache line long, so that the lines of source and destination are used up
-// while they are at hand. Tiles are made of blocks that are transposed in registers. Where a tile does not divide into
-// blocks, the last block overlaps the one before: its pixels are just moved twice, which the disjoint operands allow.
+// A region is cut into tiles whose rows are one or two cache lines long, so that the lines of source and destination
+// are used up while they are at hand. Tiles are made of blocks that are transposed in registers. Where a tile does not
+// divide into blocks, the last block overlaps the one before: its pixels are just moved twice, which the disjoint
+// operands allow.
 //
-// In place, a tile and its counterpart change places through a buffer. Operands that overlap, and rows that overlap each
-// other, are moved pixel by pixel in reading order.
+// In place, a tile and its counterpart change places through a buffer. Operands that overlap, and rows that overlap
+// each other, are moved pixel by pixel in reading order.
 #include "frame/checks.h"
 #include "frame/pixel.h"
 #include "frame/vec.h"
@@ -16,59 +17,113 @@
 namespace pxl::PXL_TARGET {
 namespace {
 
-using Source = Operand<const uint8_t>;
-using Destination = Operand<uint8_t>;
+// Images are handed on as pointer and step, not as one struct: that would go through memory at every call.
+template <int Bytes, class Byte>
+PXL_INLINE Byte* pixelAt(Byte* image, ptrdiff_t step, ptrdiff_t x, ptrdiff_t y) {
+    return image + y * step + x * Bytes;
+}
 
-// Pixels along the side of a tile.
-template <int Bytes>
-inline constexpr ptrdiff_t tileSide = Bytes == 1 ? 64 : Bytes <= 3 ? 32 : 16;
+// ---- tiles ----------------------------------------------------------------------------------------------------------
 
-// Bytes by pixel, each column of the source from the top.
+// Pixel by pixel, each column of the source from the top. Not inlined, so that the loop has the registers to itself.
 template <int Bytes>
-void transposePixels(Source src, Destination dst, ptrdiff_t width, ptrdiff_t height) {
+__attribute__((noinline)) void transposePixels(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep,
+                                               ptrdiff_t width, ptrdiff_t height) {
     for (ptrdiff_t x = 0; x < width; ++x) {
-        const uint8_t* s = src.at(x, 0);
-        uint8_t* d = dst.at(0, x);
-        for (ptrdiff_t y = 0; y < height; ++y, s += src.step, d += Bytes) movePixel<Bytes>(s, d);
+        const uint8_t* s = src + x * Bytes;
+        uint8_t* d = dst + x * dstStep;
+        for (ptrdiff_t y = 0; y < height; ++y, s += srcStep, d += Bytes)
+            movePixel<Bytes>(s, d);
     }
 }
 
-// Calls block(x, y) for blocks of Columns x Rows that cover the tile, which is at least that large.
-template <int Columns, int Rows, class Block>
-PXL_INLINE void coverByBlocks(ptrdiff_t width, ptrdiff_t height, Block&& block) {
+// Calls block(s, d, x, y) for blocks of Columns x Rows that cover the tile, which is at least that large: s is where a
+// block begins in the source, d in the destination.
+template <int Bytes, int Columns, int Rows, class Block>
+PXL_INLINE void coverByBlocks(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t width,
+                              ptrdiff_t height, Block&& block) {
+    const auto blockAt = [&](ptrdiff_t x, ptrdiff_t y) {
+        block(pixelAt<Bytes>(src, srcStep, x, y), pixelAt<Bytes>(dst, dstStep, y, x), x, y);
+    };
     for (ptrdiff_t x = 0; x < width; x += Columns) {
         const ptrdiff_t left = x + Columns <= width ? x : width - Columns;
-        for (ptrdiff_t y = 0; y < height; y += Rows) block(left, y + Rows <= height ? y : height - Rows);
+        for (ptrdiff_t y = 0; y < height; y += Rows)
+            blockAt(left, y + Rows <= height ? y : height - Rows);
     }
 }
 
+// Pixels of 1, 2, 4 and 8 bytes, by the largest block that the tile has room for.
 template <int Bytes>
-void transposeTile(Source src, Destination dst, ptrdiff_t width, ptrdiff_t height) {
-    if constexpr (16 % Bytes == 0 && Bytes < 16) {
-        constexpr int columns = 16 / Bytes, rows = vecBytes / Bytes;
-        if (width >= columns && height >= rows)
-            return coverByBlocks<columns, rows>(width, height, [&](ptrdiff_t x, ptrdiff_t y) {
-                transposeBlock<Bytes>(src.at(x, y), src.step, dst.at(y, x), dst.step);
+void transposeByBlocks(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t width,
+                       ptrdiff_t height) {
+    constexpr int columns = 16 / Bytes, rows = vecBytes / Bytes;
+    constexpr int pair = Bytes < 4 ? 1 : 2; // two of the smaller blocks side by side
+    if (width >= pair * columns && height >= rows)
+        return coverByBlocks<Bytes, pair * columns, rows>(
+            src, srcStep, dst, dstStep, width, height, [=](const uint8_t* s, uint8_t* d, ptrdiff_t, ptrdiff_t) {
+                transposeBlock<Bytes>(s, srcStep, d, dstStep);
+                if constexpr (pair == 2) transposeBlock<Bytes>(s + 16, srcStep, d + columns * dstStep, dstStep);
             });
-        if constexpr (isAvx2)
-            if (width >= columns && height >= columns)
-                return coverByBlocks<columns, columns>(width, height, [&](ptrdiff_t x, ptrdiff_t y) {
-                    transposeSquare16<Bytes>(src.at(x, y), src.step, dst.at(y, x), dst.step);
+    if (width >= columns && height >= columns)
+        return coverByBlocks<Bytes, columns, columns>(src, srcStep, dst, dstStep, width, height,
+                                                      [=](const uint8_t* s, uint8_t* d, ptrdiff_t, ptrdiff_t) {
+                                                          transposeSquare16<Bytes>(s, srcStep, d, dstStep);
+                                                      });
+    if constexpr (Bytes < 8)
+        if (width >= columns / 2 && height >= columns / 2)
+            return coverByBlocks<Bytes, columns / 2, columns / 2>(
+                src, srcStep, dst, dstStep, width, height, [=](const uint8_t* s, uint8_t* d, ptrdiff_t, ptrdiff_t) {
+                    transposeSquare8<Bytes>(s, srcStep, d, dstStep);
                 });
-        if constexpr (Bytes < 8)
-            if (width >= columns / 2 && height >= columns / 2)
-                return coverByBlocks<columns / 2, columns / 2>(width, height, [&](ptrdiff_t x, ptrdiff_t y) {
-                    transposeSquare8<Bytes>(src.at(x, y), src.step, dst.at(y, x), dst.step);
-                });
-    }
+    transposePixels<Bytes>(src, srcStep, dst, dstStep, width, height);
+}
+
 #ifdef __AVX2__
-    if constexpr (Bytes == 3)
-        if (width >= 6 && height >= 8)
-            return coverByBlocks<4, 8>(width, height, [&](ptrdiff_t x, ptrdiff_t y) {
-                transposeBlock3(src.at(x, y), src.step, dst.at(y, x), dst.step, x + 6 > width);
-            });
+template <int Bytes>
+void transposeByBlocksOfThrees(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t width,
+                               ptrdiff_t height) {
+    using Block = TransposeOfThrees<Bytes>;
+    if (width * Bytes < 16 || height < Block::rows)
+        return transposePixels<Bytes>(src, srcStep, dst, dstStep, width, height);
+    coverByBlocks<Bytes, Block::columns, Block::rows>(
+        src, srcStep, dst, dstStep, width, height, [=](const uint8_t* s, uint8_t* d, ptrdiff_t x, ptrdiff_t y) {
+            transposeBlockOfThrees<Bytes>(s, srcStep, d, dstStep, (width - x) * Bytes < 16, (height - y) * Bytes < 32);
+        });
+}
 #endif
-    transposePixels<Bytes>(src, dst, width, height);
+
+template <int Bytes>
+PXL_INLINE void transposeTile(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t width,
+                              ptrdiff_t height) {
+    if constexpr (Bytes <= 8 && 8 % Bytes == 0)
+        return transposeByBlocks<Bytes>(src, srcStep, dst, dstStep, width, height);
+#ifdef __AVX2__
+    if constexpr (Bytes == 3 || Bytes == 6)
+        return transposeByBlocksOfThrees<Bytes>(src, srcStep, dst, dstStep, width, height);
+#endif
+    transposePixels<Bytes>(src, srcStep, dst, dstStep, width, height);
+}
+
+// ---- regions --------------------------------------------------------------------------------------------------------
+
+// Within the caches tiles are as large as suits the loops. Beyond, they are two cache lines wide in the source and one
+// in the destination (half as many again where pixels have three elements), and the lines of the next one are fetched
+// meanwhile.
+constexpr ptrdiff_t cachedBytes = 1 << 20;
+
+template <int Bytes>
+constexpr ptrdiff_t cachedHeight() {
+    if (Bytes > 8) return 8;
+    return isAvx2 || Bytes % 3 ? 64 : 32; // 32 where pixels are moved one by one
+}
+
+template <int Bytes>
+inline constexpr ptrdiff_t linePixels = Bytes > 8 ? 8 : (Bytes % 3 ? 64 : 96) / Bytes;
+
+void fetchLines(const uint8_t* p, ptrdiff_t step, ptrdiff_t bytes, ptrdiff_t rows) {
+    for (ptrdiff_t y = 0; y < rows; ++y, p += step)
+        for (ptrdiff_t x = 0; x < bytes; x += 64)
+            _mm_prefetch(reinterpret_cast<const char*>(p + x), _MM_HINT_T0);
 }
 
 // The first pixel and the count of pixels of one tile along one side of a region.
@@ -79,21 +134,32 @@ struct Span {
 
 // The tile at x. A narrow rest becomes as wide as a block where the region allows, by overlapping the tile before.
 template <int Bytes>
-Span tileAt(ptrdiff_t x, ptrdiff_t size) {
+PXL_INLINE Span tileAt(ptrdiff_t x, ptrdiff_t size, ptrdiff_t tile) {
     constexpr ptrdiff_t block = Bytes < vecBytes / 8 ? vecBytes / Bytes : 8;
     const ptrdiff_t rest = size - x;
-    if (rest >= tileSide<Bytes>) return {x, tileSide<Bytes>};
+    if (rest >= tile) return {x, tile};
     if (rest >= block || size < block) return {x, rest};
     return {size - block, block};
 }
 
 template <int Bytes>
-void transposeApart(Source src, Destination dst, ptrdiff_t width, ptrdiff_t height) {
-    for (ptrdiff_t x = 0; x < width; x += tileSide<Bytes>)
-        for (ptrdiff_t y = 0; y < height; y += tileSide<Bytes>) {
-            const Span h = tileAt<Bytes>(x, width), v = tileAt<Bytes>(y, height);
-            transposeTile<Bytes>({src.at(h.first, v.first), src.step, Bytes}, {dst.at(v.first, h.first), dst.step, Bytes},
-                                 h.count, v.count);
+void transposeApart(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t width,
+                    ptrdiff_t height) {
+    const bool cached = width * height * Bytes <= cachedBytes;
+    const ptrdiff_t tileWidth = cached ? 128 : 2 * linePixels<Bytes>;
+    const ptrdiff_t tileHeight = cached ? cachedHeight<Bytes>() : linePixels<Bytes>;
+    const auto source = [=](ptrdiff_t x, ptrdiff_t y) { return pixelAt<Bytes>(src, srcStep, x, y); };
+    const auto destination = [=](ptrdiff_t x, ptrdiff_t y) { return pixelAt<Bytes>(dst, dstStep, y, x); };
+    for (ptrdiff_t x = 0; x < width; x += tileWidth)
+        for (ptrdiff_t y = 0; y < height; y += tileHeight) {
+            const Span h = tileAt<Bytes>(x, width, tileWidth), v = tileAt<Bytes>(y, height, tileHeight);
+            const ptrdiff_t next = y + tileHeight;
+            if (!cached && next + tileHeight <= height) {
+                fetchLines(source(h.first, next), srcStep, h.count * Bytes, tileHeight);
+                fetchLines(destination(h.first, next), dstStep, tileHeight * Bytes, h.count);
+            }
+            transposeTile<Bytes>(source(h.first, v.first), srcStep, destination(h.first, v.first), dstStep, h.count,
+                                 v.count);
         }
 }
 
@@ -101,60 +167,69 @@ bool rowsOverlap(ptrdiff_t step, ptrdiff_t rowBytes) { return (step < 0 ? -step 
 
 // Rows of the source from the top, each from left to right.
 template <int Bytes>
-void transposeOverlapping(Source src, Destination dst, ptrdiff_t width, ptrdiff_t height) {
+void transposeOverlapping(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t width,
+                          ptrdiff_t height) {
     for (ptrdiff_t y = 0; y < height; ++y)
-        for (ptrdiff_t x = 0; x < width; ++x) movePixel<Bytes>(src.at(x, y), dst.at(y, x));
+        for (ptrdiff_t x = 0; x < width; ++x)
+            movePixel<Bytes>(pixelAt<Bytes>(src, srcStep, x, y), pixelAt<Bytes>(dst, dstStep, y, x));
 }
 
 template <int Bytes>
-void transpose(Source src, Destination dst, ptrdiff_t width, ptrdiff_t height) {
-    if ((width > 1 && rowsOverlap(dst.step, height * Bytes)) ||
-        extentOf(src, width, height).meets(extentOf(dst, height, width)))
-        return transposeOverlapping<Bytes>(src, dst, width, height);
-    transposeApart<Bytes>(src, dst, width, height);
+void transpose(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t width,
+               ptrdiff_t height) {
+    const Operand<const uint8_t> read = {src, srcStep, Bytes};
+    const Operand<uint8_t> written = {dst, dstStep, Bytes};
+    if ((width > 1 && rowsOverlap(dstStep, height * Bytes)) ||
+        extentOf(read, width, height).meets(extentOf(written, height, width)))
+        transposeOverlapping<Bytes>(src, srcStep, dst, dstStep, width, height);
+    else
+        transposeApart<Bytes>(src, srcStep, dst, dstStep, width, height);
 }
 
-// ---- in place ----------------------------------------------------------------------------------------------------------
+// ---- in place -------------------------------------------------------------------------------------------------------
 
 template <int Bytes>
-void exchangeOverlapping(Destination image, ptrdiff_t side) {
+void exchangeOverlapping(uint8_t* image, ptrdiff_t step, ptrdiff_t side) {
     for (ptrdiff_t y = 0; y < side; ++y)
-        for (ptrdiff_t x = y + 1; x < side; ++x) exchangePixels<Bytes>(image.at(x, y), image.at(y, x));
-}
-
-// The tile at column x, row y and its counterpart at column y, row x.
-template <int Bytes>
-void exchangeTiles(Destination image, Span h, Span v) {
-    constexpr ptrdiff_t bufferStep = tileSide<Bytes> * Bytes;
-    alignas(64) uint8_t buffer[tileSide<Bytes> * bufferStep];
-    const Destination tile = {image.at(h.first, v.first), image.step, Bytes};
-    const Destination other = {image.at(v.first, h.first), image.step, Bytes};
-    const auto read = [](const Destination& o) { return Source{o.base, o.step, Bytes}; };
-    transposeTile<Bytes>(read(tile), {buffer, bufferStep, Bytes}, h.count, v.count);
-    if (tile.base != other.base) transposeTile<Bytes>(read(other), tile, v.count, h.count);
-    for (ptrdiff_t y = 0; y < h.count; ++y)
-        copyFew<bufferStep + 1>(other.at(0, y), buffer + y * bufferStep, static_cast<size_t>(v.count * Bytes));
+        for (ptrdiff_t x = y + 1; x < side; ++x)
+            exchangePixels<Bytes>(pixelAt<Bytes>(image, step, x, y), pixelAt<Bytes>(image, step, y, x));
 }
 
 template <int Bytes>
-void transposeInPlace(Destination image, ptrdiff_t side) {
-    if (rowsOverlap(image.step, side * Bytes)) return exchangeOverlapping<Bytes>(image, side);
-    const auto span = [side](ptrdiff_t at) {
-        return Span{at, at + tileSide<Bytes> <= side ? tileSide<Bytes> : side - at};
-    };
-    for (ptrdiff_t y = 0; y < side; y += tileSide<Bytes>)
-        for (ptrdiff_t x = y; x < side; x += tileSide<Bytes>) exchangeTiles<Bytes>(image, span(x), span(y));
+inline constexpr ptrdiff_t exchangedSide = Bytes <= 2   ? 64
+                                           : Bytes <= 8 ? 32
+                                                        : 16;
+
+// A tile and the one on the other side of the diagonal; they may be the same.
+template <int Bytes>
+void exchangeTiles(uint8_t* tile, uint8_t* other, ptrdiff_t step, ptrdiff_t width, ptrdiff_t height) {
+    constexpr ptrdiff_t bufferStep = exchangedSide<Bytes> * Bytes;
+    alignas(64) uint8_t buffer[exchangedSide<Bytes> * bufferStep];
+    transposeTile<Bytes>(tile, step, buffer, bufferStep, width, height);
+    if (tile != other) transposeTile<Bytes>(other, step, tile, step, height, width);
+    for (ptrdiff_t y = 0; y < width; ++y)
+        copyFew<bufferStep + 1>(other + y * step, buffer + y * bufferStep, static_cast<size_t>(height * Bytes));
 }
 
-// ---- entries -----------------------------------------------------------------------------------------------------------
+template <int Bytes>
+void transposeInPlace(uint8_t* image, ptrdiff_t step, ptrdiff_t side) {
+    if (rowsOverlap(step, side * Bytes)) return exchangeOverlapping<Bytes>(image, step, side);
+    constexpr ptrdiff_t tile = exchangedSide<Bytes>;
+    const auto count = [side](ptrdiff_t first) { return first + tile <= side ? tile : side - first; };
+    for (ptrdiff_t y = 0; y < side; y += tile)
+        for (ptrdiff_t x = y; x < side; x += tile)
+            exchangeTiles<Bytes>(pixelAt<Bytes>(image, step, x, y), pixelAt<Bytes>(image, step, y, x), step, count(x),
+                                 count(y));
+}
+
+// ---- entries --------------------------------------------------------------------------------------------------------
 
 template <class T, int Elements>
 PxlStatus Transpose(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
     if (anyNull(src, dst)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
-    constexpr int pixel = Elements * sizeof(T);
-    transpose<pixel>(operand(reinterpret_cast<const uint8_t*>(src), srcStep, pixel),
-                     operand(reinterpret_cast<uint8_t*>(dst), dstStep, pixel), roi.width, roi.height);
+    transpose<Elements * sizeof(T)>(reinterpret_cast<const uint8_t*>(src), srcStep, reinterpret_cast<uint8_t*>(dst),
+                                    dstStep, roi.width, roi.height);
     return PXL_OK;
 }
 
@@ -162,8 +237,7 @@ template <class T, int Elements>
 PxlStatus TransposeInPlace(T* srcDst, int step, ImageSize roi) {
     if (anyNull(srcDst)) return PXL_E_NULL_PTR;
     if (isEmpty(roi) || roi.width != roi.height) return PXL_E_SIZE;
-    constexpr int pixel = Elements * sizeof(T);
-    transposeInPlace<pixel>(operand(reinterpret_cast<uint8_t*>(srcDst), step, pixel), roi.width);
+    transposeInPlace<Elements * sizeof(T)>(reinterpret_cast<uint8_t*>(srcDst), step, roi.width);
     return PXL_OK;
 }
 

@@ -15,8 +15,8 @@ using Part = std::integral_constant<int, Pixels>;
 template <class T>
 inline constexpr int leastPart = 4 / static_cast<int>(sizeof(T));
 
-// Calls part(Part<P>, x) until pixels 0..n-1 are done, with x + P <= n. False, and nothing done, where n < Least. Pixels
-// before `done` are done already.
+// Calls part(Part<P>, x) until pixels 0..n-1 are done, with x + P <= n. False, and nothing done, where n < Least. The first
+// pixels may be done already, by parts of Most.
 template <int Most, int Least, class PartOfRow>
 PXL_INLINE bool rowByParts(ptrdiff_t n, PartOfRow&& part, ptrdiff_t done = 0) {
     if (n >= Most) {
@@ -30,12 +30,14 @@ PXL_INLINE bool rowByParts(ptrdiff_t n, PartOfRow&& part, ptrdiff_t done = 0) {
 }
 
 // The same with another function for the part at the end: for operands of which nothing behind the addressed channel of the
-// last pixel may be touched. Done where n > Least: at the end there is always a pixel before the part.
-template <int Most, int Least, class PartOfRow, class PartAtEnd>
-PXL_INLINE bool rowByPartsAndEnd(ptrdiff_t n, PartOfRow&& part, PartAtEnd&& end) {
+// last pixel may be touched. Done where n > Least: at the end there is always a pixel before the part. end(Part<P>, x) loads
+// the part before anything is stored, and returns the function that stores it.
+template <int Most, int Least, class PartOfRow, class EndOfRow>
+PXL_INLINE bool rowByPartsAndEnd(ptrdiff_t n, PartOfRow&& part, EndOfRow&& end) {
     if (n > Most) {
+        const auto storeEnd = end(Part<Most>{}, n - Most);
         for (ptrdiff_t x = 0; x + Most < n; x += Most) part(Part<Most>{}, x);
-        end(Part<Most>{}, n - Most);
+        storeEnd();
         return true;
     }
     if constexpr (Most > Least) return rowByPartsAndEnd<Most / 2, Least>(n, part, end);

@@ -1,12 +1,12 @@
-// Vector pieces of conversions between element types: partial loads and stores of fixed length, and narrowing helpers that
-// go with the saturating functions of vec.h.
+// Vector pieces of conversions between element types: partial loads and stores of fixed length, and narrowing helpers
+// that go with the saturating functions of vec.h.
 #pragma once
 
 #include "frame/vec.h"
 
 namespace pxl::PXL_TARGET {
 
-// ---- the first Count lanes: all of a register, half or a quarter of it --------------------------------------------------------
+// ---- the first Count lanes: all of a register, half or a quarter of it
 
 template <class T>
 PXL_INLINE __m128i lowerHalf(Vec<T> v) {
@@ -47,8 +47,8 @@ PXL_INLINE Vec<T> LoadFirst(const T* p) {
     if constexpr (bytes == 4) return fromLowerHalf<T>(_mm_cvtsi32_si128(load1(reinterpret_cast<const int32_t*>(p))));
 }
 
-// n bytes, below 16, in a register without a detour through memory; zero behind them. Each word is read from both of its
-// ends, and where those overlap they agree.
+// n bytes, below 16, in a register without a detour through memory; zero behind them. Each word is read from both of
+// its ends, and where those overlap they agree.
 PXL_INLINE __m128i loadFewBytes(const char* p, size_t n) {
     const auto at = [p](auto word, size_t offset) {
         std::memcpy(&word, p + offset, sizeof word);
@@ -85,7 +85,7 @@ PXL_INLINE Vec<T> LoadFew(const T* p, ptrdiff_t n) {
     return fromLowerHalf<T>(loadFewBytes(from, bytes));
 }
 
-// ---- every fourth lane ---------------------------------------------------------------------------------------------------------
+// ---- every fourth lane
 
 template <class T, int First>
 PXL_INLINE Mask<T> EveryFourth() {
@@ -110,7 +110,7 @@ PXL_INLINE Vec<T> KeepEveryFourth(Vec<T> kept, Vec<T> v) {
     return IfThenElse(EveryFourth<T, First>(), kept, v);
 }
 
-// ---- widening and narrowing ------------------------------------------------------------------------------------------------------
+// ---- widening and narrowing
 
 // The first lanes, each widened with its value kept.
 template <class Wide, class Narrow>

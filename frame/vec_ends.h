@@ -1,8 +1,8 @@
 // Rows shorter than a register, in one register: the words at both ends of the row, side by side.
 //
-// The words are the largest ones that fit the row and meet or overlap in the middle, so lane i is not element i; but every
-// operand of the same length has its elements in the same lanes, which is all that an element-wise operation needs. Words are
-// never smaller than Group bytes, the size of what must stay together (an element, or a pair of them).
+// The words are the largest ones that fit the row and meet or overlap in the middle, so lane i is not element i; but
+// every operand of the same length has its elements in the same lanes, which is all that an element-wise operation
+// needs. Rows of whole pairs of lanes are split into words of whole pairs.
 #pragma once
 
 #include "frame/vec.h"
@@ -33,47 +33,47 @@ PXL_INLINE void storeWord64Ends(__m128i v, char* p, ptrdiff_t n) {
     _mm_storeh_pi(reinterpret_cast<__m64*>(p + n - 8), _mm_castsi128_ps(v));
 }
 
-// 0 < n < 16 bytes.
-template <int Group>
+// 0 < n < 16 bytes, in units of Least.
+template <int Least>
 PXL_INLINE __m128i loadBlockEnds(const char* p, ptrdiff_t n) {
-    if (Group == 8 || n >= 8) return loadWord64Ends(p, n);
-    if (Group == 4 || n >= 4) return _mm_cvtsi64_si128(static_cast<int64_t>(loadWordEnds<uint32_t>(p, n)));
-    if (Group == 2 || n >= 2) return _mm_cvtsi64_si128(static_cast<int64_t>(loadWordEnds<uint16_t>(p, n)));
+    if (Least == 8 || n >= 8) return loadWord64Ends(p, n);
+    if (Least == 4 || n >= 4) return _mm_cvtsi64_si128(static_cast<int64_t>(loadWordEnds<uint32_t>(p, n)));
+    if (Least == 2 || n >= 2) return _mm_cvtsi64_si128(static_cast<int64_t>(loadWordEnds<uint16_t>(p, n)));
     return _mm_cvtsi32_si128(static_cast<uint8_t>(*p));
 }
-template <int Group>
+template <int Least>
 PXL_INLINE void storeBlockEnds(__m128i v, char* p, ptrdiff_t n) {
-    if (Group == 8 || n >= 8) return storeWord64Ends(v, p, n);
+    if (Least == 8 || n >= 8) return storeWord64Ends(v, p, n);
     const uint64_t words = static_cast<uint64_t>(_mm_cvtsi128_si64(v));
-    if (Group == 4 || n >= 4) return storeWordEnds<uint32_t>(words, p, n);
-    if (Group == 2 || n >= 2) return storeWordEnds<uint16_t>(words, p, n);
+    if (Least == 4 || n >= 4) return storeWordEnds<uint32_t>(words, p, n);
+    if (Least == 2 || n >= 2) return storeWordEnds<uint16_t>(words, p, n);
     *p = static_cast<char>(words);
 }
 
 // The ends of n lanes, 0 < n < lanes<T>; the lanes that belong to neither are zero.
-template <int Group, class T>
+template <class T>
 PXL_INLINE Vec<T> LoadEnds(const T* from, ptrdiff_t n) {
     const char* p = reinterpret_cast<const char*>(from);
     const ptrdiff_t bytes = n * static_cast<ptrdiff_t>(sizeof(T));
 #ifdef __AVX2__
     if (bytes >= 16)
-        return fromInts<T>(_mm256_loadu2_m128i(reinterpret_cast<const __m128i*>(p + bytes - 16),
-                                               reinterpret_cast<const __m128i*>(p)));
-    return fromInts<T>(_mm256_zextsi128_si256(loadBlockEnds<Group>(p, bytes)));
+        return fromInts<T>(
+            _mm256_loadu2_m128i(reinterpret_cast<const __m128i*>(p + bytes - 16), reinterpret_cast<const __m128i*>(p)));
+    return fromInts<T>(_mm256_zextsi128_si256(loadBlockEnds<sizeof(T)>(p, bytes)));
 #else
-    return fromInts<T>(loadBlockEnds<Group>(p, bytes));
+    return fromInts<T>(loadBlockEnds<sizeof(T)>(p, bytes));
 #endif
 }
-template <int Group, class T>
+template <class T>
 PXL_INLINE void StoreEnds(Vec<T> v, T* to, ptrdiff_t n) {
     char* p = reinterpret_cast<char*>(to);
     const ptrdiff_t bytes = n * static_cast<ptrdiff_t>(sizeof(T));
 #ifdef __AVX2__
     if (bytes >= 16)
         return _mm256_storeu2_m128i(reinterpret_cast<__m128i*>(p + bytes - 16), reinterpret_cast<__m128i*>(p), ints(v));
-    storeBlockEnds<Group>(_mm256_castsi256_si128(ints(v)), p, bytes);
+    storeBlockEnds<sizeof(T)>(_mm256_castsi256_si128(ints(v)), p, bytes);
 #else
-    storeBlockEnds<Group>(ints(v), p, bytes);
+    storeBlockEnds<sizeof(T)>(ints(v), p, bytes);
 #endif
 }
 

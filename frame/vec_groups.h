@@ -49,7 +49,7 @@ PXL_INLINE Vec<uint32_t> joinWords(Vec<uint32_t> a, Vec<uint32_t> b) {
 #endif
 
 // The reverse; the free bytes of every block are 0.
-template <class T>
+template <class Stores, class T>
 PXL_INLINE void StoreGroups3(Vec<T> v0, Vec<T> v1, Vec<T> v2, Vec<T> v3, T* p) {
     Vec<uint32_t> w0 = BitCast<uint32_t>(v0), w1 = BitCast<uint32_t>(v1), w2 = BitCast<uint32_t>(v2);
 #ifdef __AVX2__
@@ -65,9 +65,9 @@ PXL_INLINE void StoreGroups3(Vec<T> v0, Vec<T> v1, Vec<T> v2, Vec<T> v3, T* p) {
     w1 = fromInts<uint32_t>(b1);
     w2 = fromInts<uint32_t>(b2);
 #endif
-    StoreU(BitCast<T>(w0), p);
-    StoreU(BitCast<T>(w1), p + lanes<T>);
-    StoreU(BitCast<T>(w2), p + 2 * lanes<T>);
+    Stores::store(BitCast<T>(w0), p);
+    Stores::store(BitCast<T>(w1), p + lanes<T>);
+    Stores::store(BitCast<T>(w2), p + 2 * lanes<T>);
 }
 
 // ---- changes of the number of elements ---------------------------------------------------------------------------------------
@@ -96,22 +96,22 @@ PXL_INLINE Vec<T> CompressGroups(Vec<T> v) {
 }
 
 // The shuffle of groups of S-element pixels to groups of D-element ones in which element k of a pixel receives element
-// from[k]. With S = 3 an entry 3 stands for a value; entries above 3 keep what the destination held. The shuffled source is 0
-// in both.
-template <class T, int S, int D>
+// from[k]. With S = 3 an entry 3 stands for a value; entries above 3, and a fourth that is not given, keep what the
+// destination held. The shuffled source is 0 in both.
+template <class T, int S, int D, int Entries>
 struct OrderLookup {
     Vec<uint8_t> control;
     Vec<T> value;
     Vec<T> keep; // ones where the destination keeps its element
 
-    PXL_INLINE OrderLookup(const int32_t (&from)[4], T fill) {
+    PXL_INLINE OrderLookup(const int32_t* from, T fill) {
         constexpr int size = sizeof(T);
         // For every byte of a block: the place of its element's entry, and what it adds to the place of its source byte.
         constexpr auto entry = [](int i) { return i % 16 < 4 * D ? i % 16 / size % D * 4 : 0x80; };
         constexpr auto place = [](int i) { return i % 16 < 4 * D ? i % 16 / (D * size) * (S * size) + i % size : 0x80; };
-        const __m128i known = _mm_min_epi32(loadBlock<16>(from), _mm_set1_epi32(4));
-        const Vec<uint8_t> order = TableLookupBytesOr0(fromInts<uint8_t>(_mm256_broadcastsi128_si256(known)),
-                                                       fromLanes<uint8_t, entry>());
+        const __m128i given = loadBlock<4 * Entries>(from) | _mm_setr_epi32(0, 0, 0, Entries == 3 ? 4 : 0);
+        const __m256i entries = _mm256_broadcastsi128_si256(_mm_min_epi32(given, _mm_set1_epi32(4)));
+        const Vec<uint8_t> order = TableLookupBytesOr0(fromInts<uint8_t>(entries), fromLanes<uint8_t, entry>());
         const Vec<uint8_t> source = fromInts<uint8_t>(_mm256_slli_epi16(ints(order), std::countr_zero(sizeof(T))));
         control = (source + fromLanes<uint8_t, place>()) | (order > Set<uint8_t>(S - 1));
         value = IfThenElseZero(BitCast<T>(order == Set<uint8_t>(3)), Set<T>(fill));

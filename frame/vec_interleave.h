@@ -3,14 +3,15 @@
 // Every function moves Pixels pixels, by default as many as a vector has lanes, else a half, a quarter or an eighth of that,
 // down to 4 bytes per channel. Exactly the memory of those pixels is read or written; lanes behind them are unspecified.
 //
-// The 16-byte blocks of that memory are spread over one register per element of the pixel, N in all: block k lies in the
-// lower half of register k, and on AVX2 block k + N in its upper half. So each half of the registers holds a run of
-// consecutive pixels, and no shuffle has to cross the halves.
+// The 16-byte blocks of that memory are spread over one vector per element of the pixel, N in all: block k lies in the lower
+// half of vector k, and on AVX2 block k + N in its upper half. So each half of the vectors holds a run of consecutive
+// pixels, and no shuffle has to cross the halves.
 #pragma once
 
 #include <utility>
 
 #include "frame/vec.h"
+#include "frame/vec_stream.h"
 
 namespace pxl::PXL_TARGET {
 
@@ -35,7 +36,7 @@ PXL_INLINE void storeBlock(__m128i v, void* p) {
     if constexpr (Bytes == 4) store1(reinterpret_cast<int32_t*>(d), _mm_cvtsi128_si32(v));
     if constexpr (Bytes == 8 || Bytes == 12) _mm_storel_epi64(reinterpret_cast<__m128i*>(d), v);
     if constexpr (Bytes == 12) storeBlock<4>(_mm_unpackhi_epi64(v, v), d + 8);
-    if constexpr (Bytes >= 16) _mm_storeu_si128(reinterpret_cast<__m128i*>(d), v);
+    if constexpr (Bytes == 16) _mm_storeu_si128(reinterpret_cast<__m128i*>(d), v);
 }
 
 PXL_INLINE IntRegister fromBlock(__m128i block) {
@@ -54,6 +55,10 @@ PXL_INLINE __m128i lowerBlock(IntRegister r) {
 #endif
 }
 
+#ifdef __AVX2__
+PXL_INLINE __m128i upperBlock(IntRegister r) { return _mm256_extracti128_si256(r, 1); }
+#endif
+
 // The first Lanes lanes of a vector: 4, 8, 16 or all of its bytes.
 template <int Lanes, class T>
 PXL_INLINE Vec<T> LoadPart(const T* p) {
@@ -68,35 +73,52 @@ PXL_INLINE void StorePart(Vec<T> v, T* p) {
         storeBlock<Lanes * static_cast<int>(sizeof(T))>(lowerBlock(ints(v)), p);
 }
 
-// Register Index of the N that hold Bytes bytes from p on, arranged as said above.
+// Vector Index of the N that hold Bytes bytes from p on, arranged as said above.
 template <int N, int Index, int Bytes>
 PXL_INLINE IntRegister loadBlocks(const void* p) {
-    const char* s = static_cast<const char*>(p);
-    const __m128i lower = loadBlock<Bytes - 16 * Index>(s + 16 * Index);
+    const char* s = static_cast<const char*>(p) + 16 * Index;
+    const __m128i lower = loadBlock<Bytes - 16 * Index>(s);
 #ifdef __AVX2__
-    if constexpr (Bytes > 16 * N) return _mm256_inserti128_si256(fromBlock(lower), loadBlock<16>(s + 16 * (Index + N)), 1);
+    if constexpr (Bytes > 16 * N) return _mm256_inserti128_si256(fromBlock(lower), loadBlock<16>(s + 16 * N), 1);
 #endif
     return fromBlock(lower);
 }
-template <int N, int Index, int Bytes>
-PXL_INLINE void storeBlocks(IntRegister r, void* p) {
-    char* d = static_cast<char*>(p);
-    storeBlock<Bytes - 16 * Index>(lowerBlock(r), d + 16 * Index);
+template <class Stores, int Bytes>
+PXL_INLINE void storeFirst(__m128i block, char* d) {
+    if constexpr (Bytes >= 16)
+        Stores::store(block, d);
+    else
+        storeBlock<Bytes>(block, d);
+}
+
+template <int Pixels, int N, class T>
+PXL_INLINE void loadPixels(const T* p, Vec<T> (&v)[N]) {
+    constexpr int bytes = N * Pixels * static_cast<int>(sizeof(T));
+    v[0] = fromInts<T>(loadBlocks<N, 0, bytes>(p));
+    v[1] = fromInts<T>(loadBlocks<N, 1, bytes>(p));
+    v[2] = fromInts<T>(loadBlocks<N, 2, bytes>(p));
+    if constexpr (N == 4) v[3] = fromInts<T>(loadBlocks<N, 3, bytes>(p));
+}
+// In ascending order of addresses, which streamed stores need to be fast.
+template <int Pixels, class Stores = Cached, int N, class T>
+PXL_INLINE void storePixels(const Vec<T> (&v)[N], T* p) {
+    constexpr int bytes = N * Pixels * static_cast<int>(sizeof(T));
+    char* d = reinterpret_cast<char*>(p);
+    storeFirst<Stores, bytes>(lowerBlock(ints(v[0])), d);
+    storeFirst<Stores, bytes - 16>(lowerBlock(ints(v[1])), d + 16);
+    storeFirst<Stores, bytes - 32>(lowerBlock(ints(v[2])), d + 32);
+    if constexpr (N == 4) storeFirst<Stores, bytes - 48>(lowerBlock(ints(v[3])), d + 48);
 #ifdef __AVX2__
-    if constexpr (Bytes > 16 * N) storeBlock<16>(_mm256_extracti128_si256(r, 1), d + 16 * (Index + N));
+    if constexpr (bytes > 16 * N) {
+        Stores::store(upperBlock(ints(v[0])), d + 16 * N);
+        Stores::store(upperBlock(ints(v[1])), d + 16 * N + 16);
+        Stores::store(upperBlock(ints(v[2])), d + 16 * N + 32);
+        if constexpr (N == 4) Stores::store(upperBlock(ints(v[3])), d + 16 * N + 48);
+    }
 #endif
 }
 
-template <class T, int N, int Index, int Pixels>
-PXL_INLINE Vec<T> loadPixels(const T* p) {
-    return fromInts<T>(loadBlocks<N, Index, N * Pixels * static_cast<int>(sizeof(T))>(p));
-}
-template <int N, int Index, int Pixels, class T>
-PXL_INLINE void storePixels(Vec<T> v, T* p) {
-    storeBlocks<N, Index, N * Pixels * static_cast<int>(sizeof(T))>(ints(v), p);
-}
-
-// ---- shuffles ------------------------------------------------------------------------------------------------------------------
+// ---- lanes -------------------------------------------------------------------------------------------------------------------
 
 template <class T>
 inline constexpr int blockLanes = 16 / static_cast<int>(sizeof(T));
@@ -108,14 +130,15 @@ PXL_INLINE Vec<T> fromLanes() {
         return Vec<T>{typename Vec<T>::Raw{static_cast<T>(Lane(I))...}};
     }(std::make_integer_sequence<int, lanes<T>>{});
 }
-// Ones in the lanes of a channel of four-element pixels, and in those of elements 0..2.
-template <class T, int Channel>
-PXL_INLINE Mask<T> channelMask4() {
-    return fromLanes<MaskLane<T>, [](int i) { return i % 4 == Channel ? -1 : 0; }>();
+// Ones in the lanes where Lane(i) holds.
+template <class T, auto Lane>
+PXL_INLINE Mask<T> maskLanes() {
+    return fromLanes<MaskLane<T>, [](int i) { return Lane(i) ? -1 : 0; }>();
 }
+// Ones in elements 0..2 of pixels of four.
 template <class T>
 PXL_INLINE Mask<T> colourMask4() {
-    return fromLanes<MaskLane<T>, [](int i) { return i % 4 == 3 ? 0 : -1; }>();
+    return maskLanes<T, [](int i) { return i % 4 < 3; }>();
 }
 
 #ifdef __AVX2__
@@ -134,20 +157,40 @@ PXL_INLINE Vec<T> shuffleBlocks(Vec<T> v) {
     return shuffle2<[](int i) { return i / perBlock * perBlock + From(i % perBlock); }>(v, v);
 }
 
-// Pixels of three elements: whether lane i of register Index belongs to Channel. In a given lane each of the three registers
-// holds another channel, because 3 does not divide the lanes of a block.
-template <int Index, int Channel, class T>
-constexpr bool isChannel3(int i) {
-    return (Index * blockLanes<T> + i % blockLanes<T>) % 3 == Channel;
+#endif
+
+// Which channel lane i of vector Index of N holds.
+template <class T, int N, int Index>
+constexpr int channelOfLane(int i) {
+    return (Index * blockLanes<T> + i % blockLanes<T>) % N;
 }
-// Lanes of b where register Index holds Channel, lanes of a elsewhere.
-template <int Index, int Channel, class T>
-PXL_INLINE Vec<T> blendChannel3(Vec<T> a, Vec<T> b) {
-    return shuffle2<[](int i) { return isChannel3<Index, Channel, T>(i) ? i + lanes<T> : i; }>(a, b);
+// Takes the lanes of one channel from another vector: those of vector Index.
+template <int Channel, int N, int Index, class T>
+PXL_INLINE Vec<T> blendChannelOf(Vec<T> v, Vec<T> from) {
+#ifdef __AVX2__
+    return shuffle2<[](int i) { return channelOfLane<T, N, Index>(i) == Channel ? i + lanes<T> : i; }>(v, from);
+#else
+    return IfThenElse(maskLanes<T, [](int i) { return channelOfLane<T, N, Index>(i) == Channel; }>(), from, v);
+#endif
 }
-// From lane k of a block to the lane where the channel stands in pixel k of a block, for all three registers, and back.
+template <int Channel, int N, class T>
+PXL_INLINE void blendChannel(Vec<T> (&v)[N], const Vec<T> (&from)[N]) {
+    v[0] = blendChannelOf<Channel, N, 0>(v[0], from[0]);
+    v[1] = blendChannelOf<Channel, N, 1>(v[1], from[1]);
+    v[2] = blendChannelOf<Channel, N, 2>(v[2], from[2]);
+    if constexpr (N == 4) v[3] = blendChannelOf<Channel, N, 3>(v[3], from[3]);
+}
+
+// ---- three elements ------------------------------------------------------------------------------------------------------
+
+#ifdef __AVX2__
+
+// In any lane each of the three vectors holds another channel, because 3 does not divide the lanes of a block. So the vectors
+// trade lanes until each holds one channel, and a shuffle in the blocks sorts its pixels.
+
+// Lane k of a block to the lane where the channel stands in pixel k of a block, for all three vectors; and back.
 template <int Channel, class T>
-PXL_INLINE Vec<T> spread3(Vec<T> v) {
+PXL_INLINE Vec<T> spreadLanes3(Vec<T> v) {
     return shuffleBlocks<[](int i) {
         int k = 0;
         while ((3 * k + Channel) % blockLanes<T> != i) ++k;
@@ -155,19 +198,73 @@ PXL_INLINE Vec<T> spread3(Vec<T> v) {
     }>(v);
 }
 template <int Channel, class T>
-PXL_INLINE Vec<T> gather3(Vec<T> v0, Vec<T> v1, Vec<T> v2) {
-    const Vec<T> all = blendChannel3<2, Channel>(blendChannel3<1, Channel>(v0, v1), v2);
-    return shuffleBlocks<[](int k) { return (3 * k + Channel) % blockLanes<T>; }>(all);
+PXL_INLINE Vec<T> gatherLanes3(Vec<T> v) {
+    return shuffleBlocks<[](int k) { return (3 * k + Channel) % blockLanes<T>; }>(v);
 }
 
-// Sorts a block of four-element pixels by channel: a a a a b b b b c c c c d d d d for bytes.
+// One channel of three vectors of pixels.
+template <int Channel, class T>
+PXL_INLINE Vec<T> gatherChannel3(const Vec<T> (&v)[3]) {
+    return gatherLanes3<Channel>(
+        blendChannelOf<Channel, 3, 2>(blendChannelOf<Channel, 3, 1>(v[0], v[1]), v[2]));
+}
+template <int Index, class T>
+PXL_INLINE Vec<T> joinChannels3(const Vec<T> (&spread)[3]) {
+    return blendChannelOf<2, 3, Index>(blendChannelOf<1, 3, Index>(spread[0], spread[1]), spread[2]);
+}
+
+// For bytes, a blend costs three operations; exchanges of lanes take 12 for all three vectors.
+template <class T, auto Lane>
+PXL_INLINE void exchangeLanes(Vec<T>& a, Vec<T>& b) {
+    const Vec<T> difference = IfThenElseZero(maskLanes<T, Lane>(), a ^ b);
+    a = a ^ difference;
+    b = b ^ difference;
+}
+// Vector j, lane i of a block: from vector j - i (mod 3), and from vector j + i.
 template <class T>
-PXL_INLINE Vec<uint32_t> sortBlocks4(Vec<T> v) {
-    constexpr int pixels = blockLanes<T> / 4;
-    return BitCast<uint32_t>(shuffleBlocks<[](int i) { return i % pixels * 4 + i / pixels; }>(v));
+PXL_INLINE void rotateLanesDown(Vec<T> (&v)[3]) {
+    exchangeLanes<T, [](int i) { return i % 16 % 3 == 2; }>(v[0], v[1]);
+    exchangeLanes<T, [](int i) { return i % 16 % 3 != 0; }>(v[1], v[2]);
+    exchangeLanes<T, [](int i) { return i % 16 % 3 == 1; }>(v[0], v[1]);
+}
+template <class T>
+PXL_INLINE void rotateLanesUp(Vec<T> (&v)[3]) {
+    exchangeLanes<T, [](int i) { return i % 16 % 3 == 1; }>(v[0], v[1]);
+    exchangeLanes<T, [](int i) { return i % 16 % 3 != 0; }>(v[1], v[2]);
+    exchangeLanes<T, [](int i) { return i % 16 % 3 == 2; }>(v[0], v[1]);
 }
 
-#else
+// Pixels to channels, and channels to pixels.
+template <class T>
+PXL_INLINE void deinterleave(Vec<T> (&v)[3]) {
+    if constexpr (sizeof(T) == 1) {
+        rotateLanesDown(v);
+        v[0] = gatherLanes3<0>(v[0]);
+        v[1] = gatherLanes3<1>(v[1]);
+        v[2] = gatherLanes3<2>(v[2]);
+    } else {
+        const Vec<T> a = gatherChannel3<0>(v), b = gatherChannel3<1>(v);
+        v[2] = gatherChannel3<2>(v);
+        v[0] = a;
+        v[1] = b;
+    }
+}
+template <class T>
+PXL_INLINE void interleave(Vec<T> (&v)[3]) {
+    v[0] = spreadLanes3<0>(v[0]);
+    v[1] = spreadLanes3<1>(v[1]);
+    v[2] = spreadLanes3<2>(v[2]);
+    if constexpr (sizeof(T) == 1) {
+        rotateLanesUp(v);
+    } else {
+        const Vec<T> first = joinChannels3<0>(v), second = joinChannels3<1>(v);
+        v[2] = joinChannels3<2>(v);
+        v[0] = first;
+        v[1] = second;
+    }
+}
+
+#else // SSE2, which has no shuffle of bytes
 
 // A block of four-element pixels whose fourth is 0, with the fourth taken out: 12 bytes and four zeros.
 template <class T>
@@ -188,163 +285,160 @@ PXL_INLINE void joinBlocks(__m128i& v0, __m128i& v1, __m128i& v2, __m128i v3) {
     v2 = _mm_srli_si128(v2, 8) | _mm_slli_si128(v3, 4);
 }
 
-// One step of the perfect shuffle of three (four) registers: element i of the first half of all their elements, and element i
-// of the second half behind it. log2(lanes) steps deinterleave: they bring element 3k (4k) to place k.
+// One step of the perfect shuffle of all elements: element i of their first half, and element i of the second behind it.
 template <class T>
-PXL_INLINE void perfectShuffle(Vec<T>& v0, Vec<T>& v1, Vec<T>& v2) {
-    const auto upper = [](Vec<T> v) { return fromInts<T>(_mm_unpackhi_epi64(ints(v), ints(v))); };
-    const Vec<T> first = InterleaveLowerBlocks(v0, upper(v1));
-    const Vec<T> second = InterleaveLowerBlocks(upper(v0), v2);
-    v2 = InterleaveLowerBlocks(v1, upper(v2));
-    v0 = first;
-    v1 = second;
+PXL_INLINE void perfectShuffle(Vec<T> (&v)[3]) {
+    const auto upper = [](Vec<T> a) { return fromInts<T>(_mm_unpackhi_epi64(ints(a), ints(a))); };
+    const Vec<T> first = InterleaveLowerBlocks(v[0], upper(v[1]));
+    const Vec<T> second = InterleaveLowerBlocks(upper(v[0]), v[2]);
+    v[2] = InterleaveLowerBlocks(v[1], upper(v[2]));
+    v[0] = first;
+    v[1] = second;
 }
 template <class T>
-PXL_INLINE void perfectShuffle(Vec<T>& v0, Vec<T>& v1, Vec<T>& v2, Vec<T>& v3) {
-    const Vec<T> first = InterleaveLowerBlocks(v0, v2);
-    const Vec<T> second = InterleaveUpperBlocks(v0, v2);
-    v2 = InterleaveLowerBlocks(v1, v3);
-    v3 = InterleaveUpperBlocks(v1, v3);
-    v0 = first;
-    v1 = second;
+PXL_INLINE void perfectShuffle(Vec<T> (&v)[4]) {
+    const Vec<T> first = InterleaveLowerBlocks(v[0], v[2]);
+    const Vec<T> second = InterleaveUpperBlocks(v[0], v[2]);
+    v[2] = InterleaveLowerBlocks(v[1], v[3]);
+    v[3] = InterleaveUpperBlocks(v[1], v[3]);
+    v[0] = first;
+    v[1] = second;
 }
-template <class T, class... Rest>
-PXL_INLINE void deinterleave(Vec<T>& first, Rest&... rest) {
-    perfectShuffle(first, rest...);
-    perfectShuffle(first, rest...);
-    if constexpr (sizeof(T) <= 2) perfectShuffle(first, rest...);
-    if constexpr (sizeof(T) == 1) perfectShuffle(first, rest...);
+// Pixels to channels: as many steps as double 1 to the lanes of a vector bring element N * k to place k.
+template <int N, class T>
+PXL_INLINE void deinterleave(Vec<T> (&v)[N]) {
+    perfectShuffle(v);
+    perfectShuffle(v);
+    if constexpr (sizeof(T) <= 2) perfectShuffle(v);
+    if constexpr (sizeof(T) == 1) perfectShuffle(v);
 }
 
 #endif
-
-// Four channels to pixels: pixel k of a block in order over the four registers.
-template <class T>
-PXL_INLINE void interleave4(Vec<T>& a, Vec<T>& b, Vec<T>& c, Vec<T>& d) {
-    using Pair = typename UnsignedOf<2 * sizeof(T)>::type;
-    const Vec<Pair> ab = BitCast<Pair>(InterleaveLowerBlocks(a, b));
-    const Vec<Pair> abUpper = BitCast<Pair>(InterleaveUpperBlocks(a, b));
-    const Vec<Pair> cd = BitCast<Pair>(InterleaveLowerBlocks(c, d));
-    const Vec<Pair> cdUpper = BitCast<Pair>(InterleaveUpperBlocks(c, d));
-    a = BitCast<T>(InterleaveLowerBlocks(ab, cd));
-    b = BitCast<T>(InterleaveUpperBlocks(ab, cd));
-    c = BitCast<T>(InterleaveLowerBlocks(abUpper, cdUpper));
-    d = BitCast<T>(InterleaveUpperBlocks(abUpper, cdUpper));
-}
-
-// ---- three elements ------------------------------------------------------------------------------------------------------------
-
-template <class T, int Pixels = lanes<T>>
-PXL_INLINE void LoadInterleaved3(const T* p, Vec<T>& a, Vec<T>& b, Vec<T>& c) {
-    Vec<T> v0 = loadPixels<T, 3, 0, Pixels>(p);
-    Vec<T> v1 = loadPixels<T, 3, 1, Pixels>(p);
-    Vec<T> v2 = loadPixels<T, 3, 2, Pixels>(p);
-#ifdef __AVX2__
-    a = gather3<0>(v0, v1, v2);
-    b = gather3<1>(v0, v1, v2);
-    c = gather3<2>(v0, v1, v2);
-#else
-    deinterleave(v0, v1, v2);
-    a = v0;
-    b = v1;
-    c = v2;
-#endif
-}
-
-template <class T, int Pixels = lanes<T>>
-PXL_INLINE void StoreInterleaved3(Vec<T> a, Vec<T> b, Vec<T> c, T* p) {
-#ifdef __AVX2__
-    const Vec<T> sa = spread3<0>(a), sb = spread3<1>(b), sc = spread3<2>(c);
-    storePixels<3, 0, Pixels>(blendChannel3<0, 2>(blendChannel3<0, 1>(sa, sb), sc), p);
-    storePixels<3, 1, Pixels>(blendChannel3<1, 2>(blendChannel3<1, 1>(sa, sb), sc), p);
-    storePixels<3, 2, Pixels>(blendChannel3<2, 2>(blendChannel3<2, 1>(sa, sb), sc), p);
-#else
-    Vec<T> d = Zero<T>();
-    interleave4(a, b, c, d);
-    __m128i v0 = compressBlock<T>(ints(a)), v1 = compressBlock<T>(ints(b)), v2 = compressBlock<T>(ints(c));
-    joinBlocks(v0, v1, v2, compressBlock<T>(ints(d)));
-    storePixels<3, 0, Pixels>(fromInts<T>(v0), p);
-    storePixels<3, 1, Pixels>(fromInts<T>(v1), p);
-    storePixels<3, 2, Pixels>(fromInts<T>(v2), p);
-#endif
-}
-
-// Every lane to all three elements of a pixel.
-template <class T, int Pixels = lanes<T>>
-PXL_INLINE void StoreRepeated3(Vec<T> v, T* p) {
-#ifdef __AVX2__
-    constexpr int perBlock = blockLanes<T>;
-    storePixels<3, 0, Pixels>(shuffleBlocks<[](int i) { return i / 3; }>(v), p);
-    storePixels<3, 1, Pixels>(shuffleBlocks<[](int i) { return (perBlock + i) / 3; }>(v), p);
-    storePixels<3, 2, Pixels>(shuffleBlocks<[](int i) { return (2 * perBlock + i) / 3; }>(v), p);
-#else
-    StoreInterleaved3<T, Pixels>(v, v, v, p);
-#endif
-}
-
-// Replaces one channel of the pixels at p; the others are stored as they were.
-template <int Channel, class T, int Pixels = lanes<T>>
-PXL_INLINE void ReplaceChannel3(Vec<T> v, T* p) {
-#ifdef __AVX2__
-    const Vec<T> spread = spread3<Channel>(v);
-    const Vec<T> v0 = loadPixels<T, 3, 0, Pixels>(p), v1 = loadPixels<T, 3, 1, Pixels>(p), v2 = loadPixels<T, 3, 2, Pixels>(p);
-    storePixels<3, 0, Pixels>(blendChannel3<0, Channel>(v0, spread), p);
-    storePixels<3, 1, Pixels>(blendChannel3<1, Channel>(v1, spread), p);
-    storePixels<3, 2, Pixels>(blendChannel3<2, Channel>(v2, spread), p);
-#else
-    Vec<T> channels[3];
-    LoadInterleaved3<T, Pixels>(p, channels[0], channels[1], channels[2]);
-    channels[Channel] = v;
-    StoreInterleaved3<T, Pixels>(channels[0], channels[1], channels[2], p);
-#endif
-}
 
 // ---- four elements -------------------------------------------------------------------------------------------------------------
 
+// Channels to pixels: the second elements behind the first and the fourth behind the third, then these pairs.
+template <class T>
+PXL_INLINE void interleave(Vec<T> (&v)[4]) {
+    using Pair = typename UnsignedOf<2 * sizeof(T)>::type;
+    const Vec<Pair> ab = BitCast<Pair>(InterleaveLowerBlocks(v[0], v[1]));
+    const Vec<Pair> abUpper = BitCast<Pair>(InterleaveUpperBlocks(v[0], v[1]));
+    const Vec<Pair> cd = BitCast<Pair>(InterleaveLowerBlocks(v[2], v[3]));
+    const Vec<Pair> cdUpper = BitCast<Pair>(InterleaveUpperBlocks(v[2], v[3]));
+    v[0] = BitCast<T>(InterleaveLowerBlocks(ab, cd));
+    v[1] = BitCast<T>(InterleaveUpperBlocks(ab, cd));
+    v[2] = BitCast<T>(InterleaveLowerBlocks(abUpper, cdUpper));
+    v[3] = BitCast<T>(InterleaveUpperBlocks(abUpper, cdUpper));
+}
+
+#ifdef __AVX2__
+
+// Pixels to channels. Blocks sorted by channel (a a a a b b b b c c c c d d d d for bytes) hold one 32-bit lane per channel,
+// and interleaving four such blocks is the 4x4 transpose that brings the lanes of a channel together.
+template <class T>
+PXL_INLINE void deinterleave(Vec<T> (&v)[4]) {
+    constexpr int pixels = blockLanes<T> / 4;
+    constexpr auto sorted = [](int i) { return i % pixels * 4 + i / pixels; };
+    Vec<uint32_t> words[4] = {
+        BitCast<uint32_t>(shuffleBlocks<sorted>(v[0])), BitCast<uint32_t>(shuffleBlocks<sorted>(v[1])),
+        BitCast<uint32_t>(shuffleBlocks<sorted>(v[2])), BitCast<uint32_t>(shuffleBlocks<sorted>(v[3]))};
+    interleave(words);
+    v[0] = BitCast<T>(words[0]);
+    v[1] = BitCast<T>(words[1]);
+    v[2] = BitCast<T>(words[2]);
+    v[3] = BitCast<T>(words[3]);
+}
+
+#else
+
+template <class T>
+PXL_INLINE void interleave(Vec<T> (&v)[3]) {
+    Vec<T> four[4] = {v[0], v[1], v[2], Zero<T>()};
+    interleave(four);
+    __m128i v0 = compressBlock<T>(ints(four[0])), v1 = compressBlock<T>(ints(four[1]));
+    __m128i v2 = compressBlock<T>(ints(four[2]));
+    joinBlocks(v0, v1, v2, compressBlock<T>(ints(four[3])));
+    v[0] = fromInts<T>(v0);
+    v[1] = fromInts<T>(v1);
+    v[2] = fromInts<T>(v2);
+}
+
+#endif
+
+// ---- from memory and back ------------------------------------------------------------------------------------------------------
+
+template <class T, int Pixels = lanes<T>>
+PXL_INLINE void LoadInterleaved3(const T* p, Vec<T>& a, Vec<T>& b, Vec<T>& c) {
+    Vec<T> v[3];
+    loadPixels<Pixels>(p, v);
+    deinterleave(v);
+    a = v[0];
+    b = v[1];
+    c = v[2];
+}
+template <class T, int Pixels = lanes<T>>
+PXL_INLINE void StoreInterleaved3(Vec<T> a, Vec<T> b, Vec<T> c, T* p) {
+    Vec<T> v[3] = {a, b, c};
+    interleave(v);
+    storePixels<Pixels>(v, p);
+}
+
 template <class T, int Pixels = lanes<T>>
 PXL_INLINE void LoadInterleaved4(const T* p, Vec<T>& a, Vec<T>& b, Vec<T>& c, Vec<T>& d) {
-    Vec<T> v0 = loadPixels<T, 4, 0, Pixels>(p);
-    Vec<T> v1 = loadPixels<T, 4, 1, Pixels>(p);
-    Vec<T> v2 = loadPixels<T, 4, 2, Pixels>(p);
-    Vec<T> v3 = loadPixels<T, 4, 3, Pixels>(p);
-#ifdef __AVX2__
-    // Sorted blocks hold one 32-bit lane per channel. Interleaving four of them is the 4x4 transpose that brings the lanes
-    // of a channel together.
-    Vec<uint32_t> a0 = sortBlocks4(v0), a1 = sortBlocks4(v1), a2 = sortBlocks4(v2), a3 = sortBlocks4(v3);
-    interleave4(a0, a1, a2, a3);
-    a = BitCast<T>(a0);
-    b = BitCast<T>(a1);
-    c = BitCast<T>(a2);
-    d = BitCast<T>(a3);
-#else
-    deinterleave(v0, v1, v2, v3);
-    a = v0;
-    b = v1;
-    c = v2;
-    d = v3;
-#endif
+    Vec<T> v[4];
+    loadPixels<Pixels>(p, v);
+    deinterleave(v);
+    a = v[0];
+    b = v[1];
+    c = v[2];
+    d = v[3];
 }
-
 template <class T, int Pixels = lanes<T>>
 PXL_INLINE void StoreInterleaved4(Vec<T> a, Vec<T> b, Vec<T> c, Vec<T> d, T* p) {
-    interleave4(a, b, c, d);
-    storePixels<4, 0, Pixels>(a, p);
-    storePixels<4, 1, Pixels>(b, p);
-    storePixels<4, 2, Pixels>(c, p);
-    storePixels<4, 3, Pixels>(d, p);
+    Vec<T> v[4] = {a, b, c, d};
+    interleave(v);
+    storePixels<Pixels>(v, p);
 }
 
-// Replaces one channel of the pixels at p; the others are stored as they were.
-template <int Channel, class T, int Pixels = lanes<T>>
-PXL_INLINE void ReplaceChannel4(Vec<T> v, T* p) {
-    Vec<T> spread[4] = {};
-    spread[Channel] = v;
-    interleave4(spread[0], spread[1], spread[2], spread[3]);
-    const Mask<T> mask = channelMask4<T, Channel>();
-    storePixels<4, 0, Pixels>(IfThenElse(mask, spread[0], loadPixels<T, 4, 0, Pixels>(p)), p);
-    storePixels<4, 1, Pixels>(IfThenElse(mask, spread[1], loadPixels<T, 4, 1, Pixels>(p)), p);
-    storePixels<4, 2, Pixels>(IfThenElse(mask, spread[2], loadPixels<T, 4, 2, Pixels>(p)), p);
-    storePixels<4, 3, Pixels>(IfThenElse(mask, spread[3], loadPixels<T, 4, 3, Pixels>(p)), p);
+// ---- one channel ---------------------------------------------------------------------------------------------------------------
+
+// One channel of N vectors of pixels.
+template <int Channel, int N, class T>
+PXL_INLINE Vec<T> gatherChannel(Vec<T> (&v)[N]) {
+#ifdef __AVX2__
+    if constexpr (N == 3) return gatherChannel3<Channel>(v);
+#endif
+    deinterleave(v);
+    return v[Channel];
+}
+
+// N vectors of pixels with v in one channel; the others are unspecified.
+template <int Channel, class T>
+PXL_INLINE void spreadChannel(Vec<T> v, Vec<T> (&pixels)[3]) {
+#ifdef __AVX2__
+    pixels[0] = pixels[1] = pixels[2] = spreadLanes3<Channel>(v);
+#else
+    pixels[0] = pixels[1] = pixels[2] = v;
+    interleave(pixels);
+#endif
+}
+template <int Channel, class T>
+PXL_INLINE void spreadChannel(Vec<T> v, Vec<T> (&pixels)[4]) {
+    pixels[0] = pixels[1] = pixels[2] = pixels[3] = v;
+    interleave(pixels);
+}
+
+// The same value in all three channels.
+template <class T>
+PXL_INLINE void repeatChannel3(Vec<T> v, Vec<T> (&pixels)[3]) {
+#ifdef __AVX2__
+    constexpr int perBlock = blockLanes<T>;
+    pixels[0] = shuffleBlocks<[](int i) { return i / 3; }>(v);
+    pixels[1] = shuffleBlocks<[](int i) { return (perBlock + i) / 3; }>(v);
+    pixels[2] = shuffleBlocks<[](int i) { return (2 * perBlock + i) / 3; }>(v);
+#else
+    spreadChannel<0>(v, pixels);
+#endif
 }
 
 } // namespace pxl::PXL_TARGET

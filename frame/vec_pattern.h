@@ -7,52 +7,64 @@
 
 namespace pxl::PXL_TARGET {
 
-// ---- words: pieces of rows that are shorter than a register --------------------------------------------------------------------
+// ---- pieces of rows that are shorter than a register ----------------------------------------------------------------
 
-// Sixteen bytes as one word, beside uint64_t and the smaller ones.
-typedef long long Word16 __attribute__((vector_size(16)));
+// 16, 8, 4, 2 or 1 bytes in the low end of 16.
+typedef __m128i Piece;
 
-template <class Word>
-PXL_INLINE Word loadWord(const void* p) {
-    Word word;
-    std::memcpy(&word, p, sizeof word);
-    return word;
+template <class T>
+PXL_INLINE T loadAs(const void* p) {
+    T value;
+    std::memcpy(&value, p, sizeof value);
+    return value;
 }
 
-// The low and the high bytes of a register.
-template <class Word>
-PXL_INLINE Word headOf(__m128i v) {
-    if constexpr (sizeof(Word) == 16) return (Word)v;
-    else return static_cast<Word>(_mm_cvtsi128_si64(v));
-}
-template <class Word>
-PXL_INLINE Word tailOf(__m128i v) {
-    if constexpr (sizeof(Word) == 16) return (Word)v;
+template <int Bytes>
+PXL_INLINE Piece loadPiece(const void* p) {
+    if constexpr (Bytes == 16)
+        return _mm_loadu_si128(static_cast<const __m128i*>(p));
+    else if constexpr (Bytes == 8)
+        return _mm_loadl_epi64(static_cast<const __m128i*>(p));
     else
-        return static_cast<Word>(static_cast<uint64_t>(_mm_cvtsi128_si64(_mm_unpackhi_epi64(v, v))) >>
-                                 (64 - 8 * sizeof(Word)));
+        return _mm_cvtsi32_si128(static_cast<int>(loadAs<typename UnsignedOf<Bytes>::type>(p)));
+}
+template <int Bytes>
+PXL_INLINE void storePiece(Piece v, void* p) {
+    if constexpr (Bytes == 16)
+        return _mm_storeu_si128(static_cast<__m128i*>(p), v);
+    else if constexpr (Bytes == 8)
+        return _mm_storel_epi64(static_cast<__m128i*>(p), v);
+    else {
+        const auto few = static_cast<typename UnsignedOf<Bytes>::type>(_mm_cvtsi128_si32(v));
+        std::memcpy(p, &few, sizeof few);
+    }
+}
+
+// The first and the last bytes of a register.
+PXL_INLINE Piece headOf(__m128i v) { return v; }
+template <int Bytes>
+PXL_INLINE Piece tailOf(__m128i v) {
+    return _mm_srli_si128(v, 16 - Bytes);
 }
 #ifdef __AVX2__
-template <class Word>
-PXL_INLINE Word headOf(__m256i v) {
-    return headOf<Word>(_mm256_castsi256_si128(v));
-}
-template <class Word>
-PXL_INLINE Word tailOf(__m256i v) {
-    return tailOf<Word>(_mm256_extracti128_si256(v, 1));
+PXL_INLINE Piece headOf(__m256i v) { return _mm256_castsi256_si128(v); }
+template <int Bytes>
+PXL_INLINE Piece tailOf(__m256i v) {
+    return tailOf<Bytes>(_mm256_extracti128_si256(v, 1));
 }
 #endif
 
-// Stores a register or a word; the form with `keep` leaves the bits that it has set, where value must have none.
-PXL_INLINE void put(uint8_t* d, Vec<uint8_t> value) { StoreU(value, d); }
-PXL_INLINE void put(uint8_t* d, Vec<uint8_t> value, Vec<uint8_t> keep) { StoreU(value | (keep & LoadU(d)), d); }
-template <class Word>
-PXL_INLINE void put(uint8_t* d, Word value) {
-    std::memcpy(d, &value, sizeof value);
-}
-template <class Word>
-PXL_INLINE void put(uint8_t* d, Word value, Word keep) {
-    put(d, static_cast<Word>(value | (keep & loadWord<Word>(d))));
+// Calls body with the largest size of a piece that a row of whole pixels holds, as a constant.
+template <int E, class Body>
+PXL_INLINE void withPieceSize(ptrdiff_t bytes, Body&& body) {
+    if (E >= 16 || bytes >= 16) return body(std::integral_constant<int, 16>{});
+    if constexpr (E < 16)
+        if (E >= 8 || bytes >= 8) return body(std::integral_constant<int, 8>{});
+    if constexpr (E < 8)
+        if (E >= 4 || bytes >= 4) return body(std::integral_constant<int, 4>{});
+    if constexpr (E < 4)
+        if (E >= 2 || bytes >= 2) return body(std::integral_constant<int, 2>{});
+    if constexpr (E < 2) body(std::integral_constant<int, 1>{});
 }
 
 // Calls body(j) for j = 0 .. Count - 1, each a constant.
@@ -60,10 +72,11 @@ template <int Count, class Body>
 PXL_INLINE void unrolled(Body&& body) {
     [&]<int... j>(std::integer_sequence<int, j...>) __attribute__((always_inline)) {
         (body(std::integral_constant<int, j>{}), ...);
-    }(std::make_integer_sequence<int, Count>{});
+    }
+    (std::make_integer_sequence<int, Count>{});
 }
 
-// ---- patterns ------------------------------------------------------------------------------------------------------------------
+// ---- patterns -------------------------------------------------------------------------------------------------------
 
 // Pixels of E bytes, end to end. The first vector begins with a pixel and the last one ends with one.
 template <int E>
@@ -72,19 +85,27 @@ struct Pattern {
     Vec<uint8_t> v[count];
 };
 
+// Register by register: GCC copies the struct in smaller pieces, and a load would have to wait for them.
+template <int E>
+PXL_INLINE Pattern<E> loadPattern(const void* bytes) {
+    Pattern<E> p;
+    unrolled<Pattern<E>::count>([&](auto j) { p.v[j] = LoadU(static_cast<const uint8_t*>(bytes) + j * vecBytes); });
+    return p;
+}
+
 // The E bytes of a pixel and zeros behind them.
 template <int E>
-PXL_INLINE __m128i loadPixel(const void* pixel) {
+PXL_INLINE __m128i pixelPiece(const void* pixel) {
     const char* p = static_cast<const char*>(pixel);
-    if constexpr (E == 1) return _mm_cvtsi32_si128(loadWord<uint8_t>(p));
-    if constexpr (E == 2) return _mm_cvtsi32_si128(loadWord<uint16_t>(p));
-    if constexpr (E == 3) return _mm_cvtsi32_si128(loadWord<uint16_t>(p) | loadWord<uint8_t>(p + 2) << 16);
-    if constexpr (E == 4) return _mm_cvtsi32_si128(loadWord<int32_t>(p));
+    if constexpr (E == 1) return _mm_cvtsi32_si128(loadAs<uint8_t>(p));
+    if constexpr (E == 2) return _mm_cvtsi32_si128(loadAs<uint16_t>(p));
+    if constexpr (E == 3) return _mm_cvtsi32_si128(loadAs<uint16_t>(p) | loadAs<uint8_t>(p + 2) << 16);
+    if constexpr (E == 4) return _mm_cvtsi32_si128(loadAs<int32_t>(p));
     if constexpr (E == 6)
-        return _mm_cvtsi64_si128(loadWord<uint32_t>(p) | static_cast<int64_t>(loadWord<uint16_t>(p + 4)) << 32);
-    if constexpr (E == 8) return _mm_cvtsi64_si128(loadWord<int64_t>(p));
-    if constexpr (E == 12) return _mm_set_epi64x(loadWord<uint32_t>(p + 8), loadWord<int64_t>(p));
-    if constexpr (E == 16) return (__m128i)loadWord<Word16>(p);
+        return _mm_cvtsi64_si128(loadAs<uint32_t>(p) | static_cast<int64_t>(loadAs<uint16_t>(p + 4)) << 32);
+    if constexpr (E == 8) return _mm_cvtsi64_si128(loadAs<int64_t>(p));
+    if constexpr (E == 12) return _mm_set_epi64x(loadAs<uint32_t>(p + 8), loadAs<int64_t>(p));
+    if constexpr (E == 16) return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
 }
 
 #ifdef __AVX2__
@@ -94,7 +115,8 @@ template <int E>
 struct RepeatTable {
     alignas(vecBytes) uint8_t bytes[3 * vecBytes];
     constexpr RepeatTable() : bytes{} {
-        for (int k = 0; k < 3 * vecBytes; ++k) bytes[k] = static_cast<uint8_t>(k % E);
+        for (int k = 0; k < 3 * vecBytes; ++k)
+            bytes[k] = static_cast<uint8_t>(k % E);
     }
 };
 template <int E>
@@ -149,7 +171,7 @@ PXL_INLINE Pattern<E> repeatPixel(__m128i pixel) {
 
 template <int E>
 PXL_INLINE Pattern<E> patternOf(const void* pixel) {
-    return repeatPixel<E>(loadPixel<E>(pixel));
+    return repeatPixel<E>(pixelPiece<E>(pixel));
 }
 
 // All ones in bytes From .. To - 1 of every pixel and zeros elsewhere.
@@ -157,7 +179,8 @@ template <int E, int From, int To>
 struct BytesOfPixel {
     alignas(vecBytes) uint8_t bytes[Pattern<E>::count * vecBytes];
     constexpr BytesOfPixel() : bytes{} {
-        for (int k = 0; k < Pattern<E>::count * vecBytes; ++k) bytes[k] = k % E >= From && k % E < To ? 0xFF : 0;
+        for (int k = 0; k < Pattern<E>::count * vecBytes; ++k)
+            bytes[k] = k % E >= From && k % E < To ? 0xFF : 0;
     }
 };
 template <int E, int From, int To>
@@ -165,46 +188,88 @@ inline constexpr BytesOfPixel<E, From, To> bytesOfPixel;
 
 template <int E, int From, int To>
 PXL_INLINE Pattern<E> maskPattern() {
-    Pattern<E> p;
-    unrolled<Pattern<E>::count>([&](auto j) { p.v[j] = LoadU(bytesOfPixel<E, From, To>.bytes + j * vecBytes); });
-    return p;
+    return loadPattern<E>(bytesOfPixel<E, From, To>.bytes);
 }
 
-// ---- filling -------------------------------------------------------------------------------------------------------------------
+// ---- AC4: pixels of which the fourth element is not processed -------------------------------------------------------
 
-// Less than a register: two words that may overlap, one at each end.
-template <class Word, int E, class... Keep>
-PXL_INLINE void putEnds(uint8_t* d, ptrdiff_t bytes, const Pattern<E>& value, const Keep&... keep) {
-    constexpr int last = Pattern<E>::count - 1;
-    put(d, headOf<Word>(ints(value.v[0])), headOf<Word>(ints(keep.v[0]))...);
-    put(d + bytes - sizeof(Word), tailOf<Word>(ints(value.v[last])), tailOf<Word>(ints(keep.v[last]))...);
+// The three processed elements of a pixel of E bytes and zeros behind them; the fourth is not read.
+template <int E>
+PXL_INLINE Piece loadColour(const void* pixel) {
+    constexpr int element = E / 4;
+    const Piece third = loadPiece<element>(static_cast<const char*>(pixel) + 2 * element);
+    return _mm_or_si128(loadPiece<2 * element>(pixel), _mm_slli_si128(third, 2 * element));
+}
+template <int E>
+PXL_INLINE void storeColour(Piece colour, void* pixel) {
+    constexpr int element = E / 4;
+    storePiece<2 * element>(colour, pixel);
+    storePiece<element>(_mm_srli_si128(colour, 2 * element), static_cast<char*>(pixel) + 2 * element);
 }
 
+template <int E>
+PXL_INLINE Pattern<E> colourPattern(const void* pixel) {
+    return repeatPixel<E>(loadColour<E>(pixel));
+}
+// All ones in fourth elements.
+template <int E>
+PXL_INLINE Pattern<E> alphaPattern() {
+    return maskPattern<E, E / 4 * 3, E>();
+}
+
+// ---- filling --------------------------------------------------------------------------------------------------------
+
+// What to store at d: value, or value together with the bits of d that keep has set.
+PXL_INLINE Vec<uint8_t> filled(const uint8_t*, Vec<uint8_t> value) { return value; }
+PXL_INLINE Vec<uint8_t> filled(const uint8_t* d, Vec<uint8_t> value, Vec<uint8_t> keep) {
+    return value | (keep & LoadU(d));
+}
+template <int Bytes>
+PXL_INLINE Piece filledPiece(const uint8_t*, Piece value) {
+    return value;
+}
+template <int Bytes>
+PXL_INLINE Piece filledPiece(const uint8_t* d, Piece value, Piece keep) {
+    return _mm_or_si128(value, _mm_and_si128(keep, loadPiece<Bytes>(d)));
+}
+
+// Less than a register: two pieces that may overlap, one at each end, both made before the first store.
 template <int E, class... Keep>
 PXL_INLINE void fillShort(uint8_t* d, ptrdiff_t bytes, const Pattern<E>& value, const Keep&... keep) {
-    if (bytes >= 16) return putEnds<Word16>(d, bytes, value, keep...);
-    if (bytes >= 8) return putEnds<uint64_t>(d, bytes, value, keep...);
-    if (bytes >= 4) return putEnds<uint32_t>(d, bytes, value, keep...);
-    if (bytes >= 2) return putEnds<uint16_t>(d, bytes, value, keep...);
-    if (bytes == 1) put(d, headOf<uint8_t>(ints(value.v[0])), headOf<uint8_t>(ints(keep.v[0]))...);
+    constexpr int end = Pattern<E>::count - 1;
+    withPieceSize<E>(
+        bytes, [&](auto size) __attribute__((always_inline)) {
+            uint8_t* const behind = d + bytes - size;
+            const Piece first = filledPiece<size>(d, headOf(ints(value.v[0])), headOf(ints(keep.v[0]))...);
+            const Piece last =
+                filledPiece<size>(behind, tailOf<size>(ints(value.v[end])), tailOf<size>(ints(keep.v[end]))...);
+            storePiece<size>(first, d);
+            storePiece<size>(last, behind);
+        });
 }
 
-// Fills whole pixels, bytes in all, with a pattern. With `keep`, another pattern, the bytes that it has set keep their value,
-// and the first one must be zero there. The last register of a row is stored over what the ones before it wrote.
+// Fills whole pixels, bytes in all (or none), with a pattern. With `keep`, another pattern, the bits that it has set
+// keep their value; the first pattern must have none there. The last register may overlap the one before, and is made
+// ahead: a load of what was just stored in pieces would have to wait for them.
 template <int E, class... Keep>
 PXL_INLINE void fillPixels(uint8_t* d, ptrdiff_t bytes, const Pattern<E>& value, const Keep&... keep) {
-    if (bytes < vecBytes) return fillShort(d, bytes, value, keep...);
+    if (bytes < vecBytes) {
+        if (bytes > 0) fillShort(d, bytes, value, keep...);
+        return;
+    }
     constexpr int count = Pattern<E>::count;
     constexpr int run = count == 1 ? 4 : 3; // vectors
+    const Vec<uint8_t> last = filled(d + bytes - vecBytes, value.v[count - 1], keep.v[count - 1]...);
+    const auto fill = [&](uint8_t * to, auto j) __attribute__((always_inline)) {
+        StoreU(filled(to + j * vecBytes, value.v[j % count], keep.v[j % count]...), to + j * vecBytes);
+    };
     ptrdiff_t o = 0;
     for (; o + run * vecBytes <= bytes; o += run * vecBytes)
-        unrolled<run>([&](auto j) __attribute__((always_inline)) {
-            put(d + o + j * vecBytes, value.v[j % count], keep.v[j % count]...);
-        });
+        unrolled<run>([&](auto j) __attribute__((always_inline)) { fill(d + o, j); });
     unrolled<run - 1>([&](auto j) __attribute__((always_inline)) {
-        if (o + (j + 1) * vecBytes <= bytes) put(d + o + j * vecBytes, value.v[j % count], keep.v[j % count]...);
+        if (o + (j + 1) * vecBytes <= bytes) fill(d + o, j);
     });
-    put(d + bytes - vecBytes, value.v[count - 1], keep.v[count - 1]...);
+    StoreU(last, d + bytes - vecBytes);
 }
 
 } // namespace pxl::PXL_TARGET

@@ -89,8 +89,8 @@ struct PixelWord<12> {
     using type = __m128i;
 };
 
-// One pixel, loaded with a word that ends with it and stored with a word that begins with it. The bytes stored behind the
-// pixel are unspecified.
+// One pixel, loaded with a word that ends with it and stored with a word that begins with it. The bytes stored behind
+// the pixel are unspecified.
 template <int Bytes>
 PXL_INLINE void storePixelWord(const uint8_t* s, uint8_t* d) {
     auto word = loadWord<typename PixelWord<Bytes>::type>(s);
@@ -110,8 +110,9 @@ PXL_INLINE void storeReversed16(const uint8_t* s, uint8_t* d) {
     storeWord(_mm_shuffle_epi8(loadWord<__m128i>(s), order), d);
 }
 
-// How a run of 96 bytes is made of pixels of 3, 6 or 12 bytes in reverse order, 16 bytes at a time. The sources of 16 bytes
-// lie in a window that is little wider than 16: two loads, one from its beginning and one to its end, hold them all.
+// How a run of 96 bytes is made of pixels of 3, 6 or 12 bytes in reverse order, 16 bytes at a time. The sources of 16
+// bytes lie in a window that is little wider than 16: two loads, one from its beginning and one to its end, hold them
+// all.
 template <int Bytes>
 struct Reversal96 {
     int first[6], last[6]; // where the loads begin

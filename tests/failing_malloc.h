@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-// While it lives, the nth call of malloc by this thread (1: the next one) and all after it return null.
+// While it lives, the nth call of malloc (1: the next one) and all after it return null.
 class FailingMalloc {
 public:
     explicit FailingMalloc(int nth);

@@ -48,4 +48,13 @@ int32_t bitNot(const Member& member, const Arg* args);
 int32_t lShiftC(const Member& member, const Arg* args);
 int32_t rShiftC(const Member& member, const Arg* args);
 
+int32_t filter(const Member& member, const Arg* args);
+int32_t filterRow(const Member& member, const Arg* args);
+int32_t filterColumn(const Member& member, const Arg* args);
+int32_t filterGetBufSize(const Member& member, const Arg* args);
+
+int32_t filterBox(const Member& member, const Arg* args);
+int32_t sumWindowRow(const Member& member, const Arg* args);
+int32_t sumWindowColumn(const Member& member, const Arg* args);
+
 } // namespace reference

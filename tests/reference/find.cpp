@@ -45,6 +45,20 @@ constexpr Entry table[] = {
     {"Not", bitNot},
     {"LShiftC", lShiftC},
     {"RShiftC", rShiftC},
+    // filters
+    {"Filter", filter},
+    {"FilterGetBufSize", filterGetBufSize},
+    {"Filter32f", filter},
+    {"Filter_Round16s", filter},
+    {"Filter_Round32s", filter},
+    {"Filter_Round32f", filter},
+    {"FilterRow", filterRow},
+    {"FilterRow32f", filterRow},
+    {"FilterColumn", filterColumn},
+    {"FilterColumn32f", filterColumn},
+    {"FilterBox", filterBox},
+    {"SumWindowRow", sumWindowRow},
+    {"SumWindowColumn", sumWindowColumn},
 };
 
 } // namespace

@@ -130,6 +130,14 @@ Image imageOf(const Arg& pointer, const Arg& step, const Side& side, const Eleme
     return image;
 }
 
+Image imageOfWholeElements(const Arg& pointer, const Arg& step, const Side& side, const Element& type) {
+    Image image = imageOf(pointer, step, side, type);
+    const int64_t bytes = type.bytes();
+    const int64_t over = ((image.step % bytes) + bytes) % bytes;
+    image.step -= over;
+    return image;
+}
+
 Pixel scalarValue(const Element& type, const Arg& value) {
     Pixel pixel{};
     if (type.isFloat) {

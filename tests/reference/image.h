@@ -15,9 +15,12 @@ namespace reference {
 inline constexpr int32_t ok = 0;
 inline constexpr int32_t sizeError = -6;
 inline constexpr int32_t nullPtrError = -8;
+inline constexpr int32_t memAllocError = -9;
 inline constexpr int32_t scaleRangeError = -13;
 inline constexpr int32_t stepError = -14;
 inline constexpr int32_t mirrorAxisError = -21;
+inline constexpr int32_t maskSizeError = -33;
+inline constexpr int32_t anchorError = -34;
 inline constexpr int32_t channelOrderError = -60;
 
 // An element type code taken apart: "16sc" is two parts of two bytes each, signed.
@@ -77,6 +80,9 @@ struct Image {
 // Both take the pointer argument as the caller gave it: for a planar side that is the array of plane pointers.
 bool isNull(const Arg& pointer, const Side& side);
 Image imageOf(const Arg& pointer, const Arg& step, const Side& side, const Element& type);
+
+// For the families that count a step in elements: what is over a whole number of them, rounded down, is dropped.
+Image imageOfWholeElements(const Arg& pointer, const Arg& step, const Side& side, const Element& type);
 
 // The scalar argument as one element, and the first count entries of a value array.
 Pixel scalarValue(const Element& type, const Arg& value);
