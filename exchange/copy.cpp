@@ -1,5 +1,5 @@
-// Copies: dst = src, element by element. AC4 forms leave the fourth element of the destination as it is and never read that
-// of the source.
+// Copies: dst = src, element by element. AC4 forms leave the fourth element of the destination as it is and never read
+// that of the source.
 #include "exchange/group_rows.h"
 #include "frame/checks.h"
 #include "frame/vec.h"
@@ -10,19 +10,35 @@ namespace pxl::PXL_TARGET {
 namespace {
 
 // Short rows are copied in line: the call would cost as much as the copy.
-PXL_INLINE void copyBytes(void* d, const void* s, size_t n) {
+PXL_INLINE void copyBytes(uint8_t* d, const uint8_t* s, ptrdiff_t n) {
     if (n <= 64)
-        copyFew<64>(d, s, n);
+        copyFew<64>(d, s, static_cast<size_t>(n));
     else
-        std::memmove(d, s, n);
+        std::memmove(d, s, static_cast<size_t>(n));
+}
+
+PXL_INLINE void copyRow(uint8_t* d, const uint8_t* s, ptrdiff_t n, bool streamed) {
+    ptrdiff_t x = 0;
+    for (; streamed && x + 128 <= n; x += 128)
+#pragma GCC unroll 8
+        for (int i = 0; i < 128; i += vecBytes)
+            Streamed::store(LoadU(s + x + i), d + x + i);
+    copyBytes(d + x, s + x, n - x);
 }
 
 template <class T, int Channels>
 PxlStatus CopyElements(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
     if (anyNull(src, dst)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
-    const auto row = [](ptrdiff_t n, const T* s, T* d) { copyBytes(d, s, static_cast<size_t>(n) * sizeof(T)); };
-    walkElements(roi, Channels, row, operand(src, srcStep), operand(dst, dstStep));
+    const auto s = operand(src, srcStep);
+    const auto d = operand(dst, dstStep);
+    const bool streamed = src != dst && isStreamed(ptrdiff_t{roi.width} * Channels, roi.height, s, d);
+    const auto row = [=](ptrdiff_t n, const T* from, T* to) {
+        const auto* sourceBytes = reinterpret_cast<const uint8_t*>(from);
+        copyRow(reinterpret_cast<uint8_t*>(to), sourceBytes, n * static_cast<ptrdiff_t>(sizeof(T)), streamed);
+    };
+    walkElements(roi, Channels, row, s, d);
+    finishStreamed(streamed);
     return PXL_OK;
 }
 

@@ -1,8 +1,8 @@
 // Copies between interleaved pixels, single channels and planes.
 //
-// A channel form addresses one element per pixel: from the addressed element of the first pixel to that of the last one, its
-// row may be read, and rewritten with what it held, but nothing before or behind. So a vector that starts with a pixel has
-// the channel as its first element, and the vector at the end of a row has it as its last.
+// A channel form addresses one element per pixel: from the addressed element of the first pixel to that of the last
+// one, its row may be read, and rewritten with what it held, but nothing before or behind. So a vector that starts with
+// a pixel has the channel as its first element, and the vector at the end of a row has it as its last.
 #include "frame/checks.h"
 #include "frame/row_parts.h"
 #include "frame/vec_interleave.h"
@@ -12,7 +12,8 @@
 namespace pxl::PXL_TARGET {
 namespace {
 
-// ---- rows of a channel -------------------------------------------------------------------------------------------------------
+// ---- rows of a channel
+// -------------------------------------------------------------------------------------------------------
 
 // Vectors of pixels of N elements, from memory in which the channel is the first or the last element at the end.
 template <class T, int N>
@@ -35,11 +36,12 @@ PXL_INLINE void ownExtractChannelRow(ptrdiff_t n, const T* s, T* d) {
         return [v = channel(p, ChannelOf<N - 1>{}, x), at = d + x] { StorePart<P>(v, at); };
     };
     if (rowByPartsAndEnd<lanes<T>, leastPart<T>>(n, part, end)) return;
-    for (ptrdiff_t x = 0; x < n; ++x) store1(d + x, load1(s + x * N));
+    for (ptrdiff_t x = 0; x < n; ++x)
+        store1(d + x, load1(s + x * N));
 }
 
-// source(Part<P>, ChannelOf<Channel>, x, vectors) gives P pixels from x on that hold the new values of the channel. False, and
-// nothing done, for very short rows.
+// source(Part<P>, ChannelOf<Channel>, x, vectors) gives P pixels from x on that hold the new values of the channel.
+// False, and nothing done, for very short rows.
 template <class T, int N, class Source>
 PXL_INLINE bool ownReplaceChannelRow(ptrdiff_t n, Source source, T* d) {
     const auto replaced = [&]<int P, int Channel>(Part<P> p, ChannelOf<Channel> c, ptrdiff_t x) {
@@ -50,9 +52,12 @@ PXL_INLINE bool ownReplaceChannelRow(ptrdiff_t n, Source source, T* d) {
         blendChannel<Channel>(pixels.v, from);
         return pixels;
     };
-    const auto part = [&]<int P>(Part<P> p, ptrdiff_t x) { storePixels<P>(replaced(p, ChannelOf<0>{}, x).v, d + x * N); };
+    const auto part = [&]<int P>(Part<P> p, ptrdiff_t x) {
+        storePixels<P>(replaced(p, ChannelOf<0>{}, x).v, d + x * N);
+    };
     const auto end = [&]<int P>(Part<P> p, ptrdiff_t x) {
-        return [pixels = replaced(p, ChannelOf<N - 1>{}, x), at = d + x * N - (N - 1)] { storePixels<P>(pixels.v, at); };
+        return
+            [pixels = replaced(p, ChannelOf<N - 1>{}, x), at = d + x * N - (N - 1)] { storePixels<P>(pixels.v, at); };
     };
     return rowByPartsAndEnd<lanes<T>, leastPart<T>>(n, part, end);
 }
@@ -63,7 +68,8 @@ PXL_INLINE void ownInsertChannelRow(ptrdiff_t n, const T* s, T* d) {
         spreadChannel<Channel>(LoadPart<P>(s + x), v);
     };
     if (ownReplaceChannelRow<T, N>(n, spread, d)) return;
-    for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x));
+    for (ptrdiff_t x = 0; x < n; ++x)
+        store1(d + x * N, load1(s + x));
 }
 
 template <class T, int N>
@@ -72,7 +78,8 @@ PXL_INLINE void ownMoveChannelRow(ptrdiff_t n, const T* s, T* d) {
         loadPixels<P>(s + x * N - Channel, v);
     };
     if (ownReplaceChannelRow<T, N>(n, pixels, d)) return;
-    for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x * N));
+    for (ptrdiff_t x = 0; x < n; ++x)
+        store1(d + x * N, load1(s + x * N));
 }
 
 template <class T, int SrcElements, int DstElements>
@@ -105,14 +112,16 @@ PxlStatus CopyChannel(const T* src, int srcStep, T* dst, int dstStep, ImageSize 
     return PXL_OK;
 }
 
-// ---- planes --------------------------------------------------------------------------------------------------------------------
+// ---- planes
+// --------------------------------------------------------------------------------------------------------------------
 
 template <class T, int Planes>
 PXL_INLINE void splitPixels(ptrdiff_t n, const T* s, T* const (&d)[Planes]) {
     for (ptrdiff_t x = 0; x < n; ++x) {
         T pixel[Planes];
         std::memcpy(pixel, s + x * Planes, sizeof pixel);
-        for (int p = 0; p < Planes; ++p) store1(d[p] + x, pixel[p]);
+        for (int p = 0; p < Planes; ++p)
+            store1(d[p] + x, pixel[p]);
     }
 }
 
@@ -134,7 +143,8 @@ template <class T, int Planes>
 PXL_INLINE void ownSplitRow(ptrdiff_t n, const T* s, T* const (&d)[Planes], bool streamed) {
     constexpr int most = lanes<T>;
     ptrdiff_t x = 0;
-    for (; streamed && x + most <= n; x += most) splitPart<Streamed, most>(s, d, x);
+    for (; streamed && x + most <= n; x += most)
+        splitPart<Streamed, most>(s, d, x);
     const auto part = [&]<int P>(Part<P>, ptrdiff_t at) { splitPart<Cached, P>(s, d, at); };
     if (!rowByParts<most, leastPart<T>>(n, part, x)) splitPixels(n, s, d);
 }
@@ -143,7 +153,8 @@ template <class T, int Planes>
 PXL_INLINE void mergePixels(ptrdiff_t n, const T* const (&s)[Planes], T* d) {
     for (ptrdiff_t x = 0; x < n; ++x) {
         T pixel[Planes];
-        for (int p = 0; p < Planes; ++p) pixel[p] = load1(s[p] + x);
+        for (int p = 0; p < Planes; ++p)
+            pixel[p] = load1(s[p] + x);
         std::memcpy(d + x * Planes, pixel, sizeof pixel);
     }
 }
@@ -152,7 +163,8 @@ template <class Stores, int P, class T, int Planes>
 PXL_INLINE void mergePart(const T* const (&s)[Planes], T* d, ptrdiff_t x) {
     Vec<T> v[Planes];
 #pragma GCC unroll 4
-    for (int p = 0; p < Planes; ++p) v[p] = LoadPart<P>(s[p] + x);
+    for (int p = 0; p < Planes; ++p)
+        v[p] = LoadPart<P>(s[p] + x);
     interleave(v);
     storePixels<P, Stores>(v, d + x * Planes);
 }
@@ -161,7 +173,8 @@ template <class T, int Planes>
 PXL_INLINE void ownMergeRow(ptrdiff_t n, const T* const (&s)[Planes], T* d, bool streamed) {
     constexpr int most = lanes<T>;
     ptrdiff_t x = 0;
-    for (; streamed && x + most <= n; x += most) mergePart<Streamed, most>(s, d, x);
+    for (; streamed && x + most <= n; x += most)
+        mergePart<Streamed, most>(s, d, x);
     const auto part = [&]<int P>(Part<P>, ptrdiff_t at) { mergePart<Cached, P>(s, d, at); };
     if (!rowByParts<most, leastPart<T>>(n, part, x)) mergePixels(n, s, d);
 }
@@ -170,7 +183,7 @@ PXL_INLINE void ownMergeRow(ptrdiff_t n, const T* const (&s)[Planes], T* d, bool
 template <class Kernel, class T, class Pixels, int... P>
 void walkPlanes(ImageSize roi, Kernel kernel, Operand<Pixels> pixels, T* const* planes, int step,
                 std::integer_sequence<int, P...>) {
-    const bool streamed = isStreamed(roi, pixels, operand(planes[P], step)...);
+    const bool streamed = isStreamed(roi.width, roi.height, pixels, operand(planes[P], step)...);
     const auto row = [=](ptrdiff_t n, auto... p) { kernel(streamed, n, p...); };
     walk(roi, row, pixels, operand(planes[P], step)...);
     finishStreamed(streamed);
@@ -191,7 +204,9 @@ template <class T, int Planes>
 PxlStatus Merge(const T* const* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
     if (anyPlaneNull<Planes>(src) || anyNull(dst)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
-    const auto row = [](bool streamed, ptrdiff_t n, T* d, auto... s) { ownMergeRow<T, Planes>(n, {s...}, d, streamed); };
+    const auto row = [](bool streamed, ptrdiff_t n, T* d, auto... s) {
+        ownMergeRow<T, Planes>(n, {s...}, d, streamed);
+    };
     walkPlanes(roi, row, operand(dst, dstStep, Planes), src, srcStep, std::make_integer_sequence<int, Planes>{});
     return PXL_OK;
 }

@@ -1,12 +1,13 @@
-// Rows of pixels whose three or four elements are changed group by group (frame/vec_groups.h), with the source disjoint from
-// the destination or exactly in place.
+// Rows of pixels whose three or four elements are changed group by group (frame/vec_groups.h), with the source disjoint
+// from the destination or exactly in place.
 #pragma once
 
 #include "frame/vec_groups.h"
 
 namespace pxl::PXL_TARGET {
 
-// What a row of groups reads and writes. A source's fourth element that is not read may lie outside the caller's memory.
+// What a row of groups reads and writes. A source's fourth element that is not read may lie outside the caller's
+// memory.
 struct GroupForm {
     int srcElements;
     int dstElements;
@@ -34,7 +35,8 @@ PXL_INLINE void loadGroups(const T* p, Vec<T> (&v)[4]) {
         LoadGroups3(p, v[0], v[1], v[2], v[3]);
     } else {
 #pragma GCC unroll 4
-        for (int i = 0; i < 4; ++i) v[i] = LoadU(p + i * lanes<T>);
+        for (int i = 0; i < 4; ++i)
+            v[i] = LoadU(p + i * lanes<T>);
     }
 }
 template <int Elements, class Stores, class T>
@@ -43,18 +45,20 @@ PXL_INLINE void storeGroups(const Vec<T> (&v)[4], T* p) {
         StoreGroups3<Stores>(v[0], v[1], v[2], v[3], p);
     } else {
 #pragma GCC unroll 4
-        for (int i = 0; i < 4; ++i) Stores::store(v[i], p + i * lanes<T>);
+        for (int i = 0; i < 4; ++i)
+            Stores::store(v[i], p + i * lanes<T>);
     }
 }
 
-// change(source, old) makes blocks of the destination from blocks of the source; old is what the destination held, where the
-// form keeps any of it.
+// change(source, old) makes blocks of the destination from blocks of the source; old is what the destination held,
+// where the form keeps any of it.
 template <class T, GroupForm Form, class Stores, class Change>
 PXL_INLINE void changeGroups(const T* s, T* d, Change change) {
     Vec<T> v[4];
     loadGroups<Form.srcElements>(s, v);
 #pragma GCC unroll 4
-    for (int i = 0; i < 4; ++i) v[i] = change(v[i], Form.keepsOld ? LoadU(d + i * lanes<T>) : Zero<T>());
+    for (int i = 0; i < 4; ++i)
+        v[i] = change(v[i], Form.keepsOld ? LoadU(d + i * lanes<T>) : Zero<T>());
     storeGroups<Form.dstElements, Stores>(v, d);
 }
 
@@ -95,13 +99,16 @@ PXL_INLINE void ownChangeRow(ptrdiff_t n, const T* s, T* d, bool streamed, Chang
     };
     ptrdiff_t x = 0;
     if constexpr (!Form.keepsOld)
-        for (; streamed && x + block <= readable; x += block) changeBlock(x, Streamed{});
-    for (; x + block <= readable; x += block) changeBlock(x, Cached{});
+        for (; streamed && x + block <= readable; x += block)
+            changeBlock(x, Streamed{});
+    for (; x + block <= readable; x += block)
+        changeBlock(x, Cached{});
     if (x > 0 && readable - x > 2 * group && s != d) {
         changeBlock(readable - block, Cached{});
         x = readable == n ? n : n - group;
     }
-    for (; x + group <= n; x += group) changeGroup<T, Form>(source(x), d + x * Form.dstElements, change);
+    for (; x + group <= n; x += group)
+        changeGroup<T, Form>(source(x), d + x * Form.dstElements, change);
     if (x < n) changeGroup<T, Form>(last, d + (n - group) * Form.dstElements, change);
 }
 
@@ -110,7 +117,7 @@ template <class T, GroupForm Form, class Change>
 inline void walkGroups(ImageSize roi, Change change, const T* src, int srcStep, T* dst, int dstStep) {
     const auto s = operand(src, srcStep, Form.srcElements);
     const auto d = operand(dst, dstStep, Form.dstElements);
-    const bool streamed = !Form.keepsOld && src != dst && isStreamed(roi, s, d);
+    const bool streamed = !Form.keepsOld && src != dst && isStreamed(roi.width, roi.height, s, d);
     const auto row = [=](ptrdiff_t n, const T* from, T* to) { ownChangeRow<T, Form>(n, from, to, streamed, change); };
     walk(roi, row, s, d);
     finishStreamed(streamed);

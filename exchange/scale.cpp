@@ -109,14 +109,10 @@ struct FromFloatSteady {
     }
 };
 
-inline bool isFinite(float x) { return x - x == 0.0f; }
-
-// The line rises, its roundings included, so one look at each end covers all that lies beyond. Bounds close together
-// and far from 0 lose the ends to cancellation; extreme ones overflow.
-inline bool isSteady(Line line, float vMin, float vMax) {
-    if (!isFinite(line.slope) || !isFinite(line.origin) || !(line.slope > 0.0f)) return false;
-    return line.at(vMin) <= 0.5f && line.at(vMax) > 254.5f;
-}
+// The line rises, its roundings included, and is 0 at vMin, where both products are the same. So all below vMin is done
+// with, and one look at vMax covers all above: bounds close together and far from 0 lose it to cancellation. The slope
+// overflows for bounds that are closest to each other, and is 0 or NaN for infinite ones.
+inline bool isSteady(Line line, float vMax) { return line.slope - line.slope == 0.0f && line.at(vMax) > 254.5f; }
 
 // Whether tiesToEven would change nothing. With an origin of 2 or more, what adds up to about 0.5 has magnitudes of 1.5
 // or more: the sum is exact and a multiple of 2^-23, so it is never the one value that matters.
@@ -160,7 +156,7 @@ PxlStatus ScaleFromFloat(const float* src, int srcStep, uint8_t* dst, int dstSte
         return convertRegion<Elements, Channels>(operation, src, srcStep, dst, dstStep, roi);
     };
     const Line line = lineOf(vMin, vMax);
-    if (!isSteady(line, vMin, vMax)) return run(FromFloat{vMin, vMax, line});
+    if (!isSteady(line, vMax)) return run(FromFloat{vMin, vMax, line});
     if (line.origin == 0.0f) return run(FromFloatSteady<false>{{line.slope, -tieReach}}); // a sum that costs nothing
     if (isFarFrom0(line.origin)) return run(FromFloatSteady<false>{line});
     return run(FromFloatSteady<true>{line});

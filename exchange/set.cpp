@@ -6,6 +6,7 @@
 #include "frame/checks.h"
 #include "frame/vec.h"
 #include "frame/vec_pattern.h"
+#include "frame/vec_stream.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
@@ -17,13 +18,35 @@ PXL_INLINE uint8_t* bytesOf(T* p) {
     return reinterpret_cast<uint8_t*>(p);
 }
 
+// A run of pixels too long to stay in the caches. Streamed stores are aligned, so they begin in the middle of the first
+// register; the last ones end with the run.
+template <int E>
+void streamPixels(uint8_t* d, ptrdiff_t bytes, const Pattern<E>& pattern) {
+    constexpr int count = Pattern<E>::count;
+    alignas(vecBytes) uint8_t pixels[(count + 1) * vecBytes];
+    unrolled<count + 1>([&](auto j) { StoreU(pattern.v[j % count], pixels + j * vecBytes); });
+    StoreU(pattern.v[0], d);
+    ptrdiff_t o = -reinterpret_cast<intptr_t>(d) & (vecBytes - 1);
+    Vec<uint8_t> turned[count];
+    unrolled<count>([&](auto j) { turned[j] = LoadU(pixels + o + j * vecBytes); });
+    for (; o + count * vecBytes <= bytes; o += count * vecBytes)
+        unrolled<count>([&](auto j) { Streamed::store(turned[j], d + o + j * vecBytes); });
+    finishStreamed(true);
+    unrolled<count>([&](auto j) { StoreU(pattern.v[j], d + bytes - (count - j) * vecBytes); });
+}
+
 template <int E>
 PxlStatus setPixels(const void* value, uint8_t* dst, int dstStep, ImageSize roi) {
     if (anyNull(dst, value)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
     const Pattern<E> pattern = patternOf<E>(value);
-    walk(
-        roi, [&](ptrdiff_t n, uint8_t* d) { fillPixels(d, n * E, pattern); }, operand(dst, dstStep, E));
+    const auto row = [&](ptrdiff_t n, uint8_t* d) {
+        if (n * E < streamedBytes)
+            fillPixels(d, n * E, pattern);
+        else
+            streamPixels(d, n * E, pattern);
+    };
+    walk(roi, row, operand(dst, dstStep, E));
     return PXL_OK;
 }
 

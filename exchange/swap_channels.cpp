@@ -1,6 +1,6 @@
-// Channel orders: element k of a destination pixel receives element dstOrder[k] of the source pixel. All elements of a pixel
-// are read before one is written. On AVX2 an order is one byte shuffle per group of pixels, made once per call; on SSE2,
-// which has none, channels are taken apart and put together again.
+// Channel orders: element k of a destination pixel receives element dstOrder[k] of the source pixel. All elements of a
+// pixel are read before one is written. On AVX2 an order is one byte shuffle per group of pixels, made once per call;
+// on SSE2, which has none, channels are taken apart and put together again.
 #include "exchange/group_rows.h"
 #include "frame/checks.h"
 #include "frame/row_parts.h"
@@ -10,10 +10,11 @@
 namespace pxl::PXL_TARGET {
 namespace {
 
-// ---- orders ------------------------------------------------------------------------------------------------------------------
+// ---- orders
+// ------------------------------------------------------------------------------------------------------------------
 
-// In the order of three elements to four: writes a value. This and above: keeps the destination's element, as a fourth one
-// that has no entry does.
+// In the order of three elements to four: writes a value. This and above: keeps the destination's element, as a fourth
+// one that has no entry does.
 constexpr int32_t fill = 3;
 constexpr int32_t keep = 4;
 
@@ -24,7 +25,8 @@ bool isInRange(const int32_t* order, int32_t last) {
     return true;
 }
 
-// ---- rows --------------------------------------------------------------------------------------------------------------------
+// ---- rows
+// --------------------------------------------------------------------------------------------------------------------
 
 #ifdef __AVX2__
 
@@ -94,7 +96,8 @@ void ownSwap(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, cons
 
 #endif
 
-// ---- members -----------------------------------------------------------------------------------------------------------------
+// ---- members
+// -----------------------------------------------------------------------------------------------------------------
 
 template <class T, int Elements>
 PxlStatus SwapChannels(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const int32_t* dstOrder) {
@@ -149,7 +152,8 @@ PxlStatus SwapChannels4To3(const T* src, int srcStep, T* dst, int dstStep, Image
     return PXL_OK;
 }
 
-// ---- one channel to three ------------------------------------------------------------------------------------------------------
+// ---- one channel to three
+// ------------------------------------------------------------------------------------------------------
 
 template <class T>
 void ownDuplicateRow(ptrdiff_t n, const T* s, T* d) {
@@ -161,7 +165,8 @@ void ownDuplicateRow(ptrdiff_t n, const T* s, T* d) {
     if (rowByParts<lanes<T>, leastPart<T>>(n, part)) return;
     for (ptrdiff_t x = 0; x < n; ++x) {
         const T value = load1(s + x);
-        for (int k = 0; k < 3; ++k) store1(d + x * 3 + k, value);
+        for (int k = 0; k < 3; ++k)
+            store1(d + x * 3 + k, value);
     }
 }
 

@@ -1,11 +1,12 @@
-// Vector pieces of scaled arithmetic: averages, products, shifts by counts that are known once per call, packing in blocks.
+// Vector pieces of scaled arithmetic: averages, products, shifts by counts that are known once per call, packing in
+// blocks.
 #pragma once
 
 #include "frame/vec.h"
 
 namespace pxl::PXL_TARGET {
 
-// ---- sums ------------------------------------------------------------------------------------------------------------------
+// ---- sums -----------------------------------------------------------------------------------------------------------
 
 // (a + b + 1) / 2
 PXL_INLINE Vec<uint8_t> Average(Vec<uint8_t> a, Vec<uint8_t> b) {
@@ -40,14 +41,16 @@ PXL_INLINE Vec<int32_t> SaturatedSub(Vec<int32_t> a, Vec<int32_t> b) {
     return IfNegativeThenElse((a ^ b) & (a ^ difference), SaturatedSign(a), difference);
 }
 
-// ---- products --------------------------------------------------------------------------------------------------------------
+// ---- products -------------------------------------------------------------------------------------------------------
 
 // The upper halves of the 32-bit products; the lower halves are a * b.
 template <class T>
 PXL_INLINE Vec<T> MulHigh(Vec<T> a, Vec<T> b) {
     static_assert(sizeof(T) == 2);
-    if constexpr (std::is_signed_v<T>) return fromInts<T>(PXL_VEC_OP(mulhi_epi16)(ints(a), ints(b)));
-    else return fromInts<T>(PXL_VEC_OP(mulhi_epu16)(ints(a), ints(b)));
+    if constexpr (std::is_signed_v<T>)
+        return fromInts<T>(PXL_VEC_OP(mulhi_epi16)(ints(a), ints(b)));
+    else
+        return fromInts<T>(PXL_VEC_OP(mulhi_epu16)(ints(a), ints(b)));
 }
 
 // Sums of the products of lanes 2i and 2i + 1, modulo 2^32.
@@ -67,17 +70,15 @@ PXL_INLINE Vec<int64_t> MulEven(Vec<int32_t> a, Vec<int32_t> b) {
 #endif
 }
 
-// ---- pairs of lanes --------------------------------------------------------------------------------------------------------
+// ---- pairs of lanes -------------------------------------------------------------------------------------------------
 
 // Lanes 2i and 2i + 1 exchanged.
 template <class T>
 PXL_INLINE Vec<T> SwapPairs(Vec<T> v) {
-    if constexpr (sizeof(T) == 2) {
-        const Vec<uint32_t> pairs = BitCast<uint32_t>(v);
-        return BitCast<T>(ShiftLeft<16>(pairs) | ShiftRight<16>(pairs));
-    } else {
+    if constexpr (sizeof(T) == 2)
+        return fromInts<T>(PXL_VEC_OP(shufflehi_epi16)(PXL_VEC_OP(shufflelo_epi16)(ints(v), 0xB1), 0xB1));
+    else
         return fromInts<T>(PXL_VEC_OP(shuffle_epi32)(ints(v), 0xB1));
-    }
 }
 // Lanes 2i twice, and lanes 2i + 1 twice.
 template <class T>
@@ -99,66 +100,76 @@ PXL_INLINE Vec<float> SubAdd(Vec<float> a, Vec<float> b) {
 #endif
 }
 
-// ---- shifts by one count for all lanes ---------------------------------------------------------------------------------------
+// ---- shifts by one count for all lanes ------------------------------------------------------------------------------
 
-// A count. Counts from the lane's width up give 0, or the sign where signed lanes shift right. Lanes of one byte shift in pairs:
-// what crosses from one to the other is masked away by the caller.
+// A count. Counts from the lane's width up give 0, or the sign where signed lanes shift right. Lanes of one byte shift
+// in pairs: what crosses from one to the other is masked away by the caller.
 template <class T>
 struct ShiftCount {
-#ifdef __AVX2__
-    // A count per lane costs one operation less than a count in the low bits of a register.
-    static constexpr bool perLane = sizeof(T) >= 4;
-#else
-    static constexpr bool perLane = false;
-#endif
-    std::conditional_t<perLane, IntRegister, __m128i> bits;
+    IntRegister bits;
 
     ShiftCount() = default;
     explicit ShiftCount(int count) {
-        if constexpr (perLane) bits = ints(Set<MaskLane<T>>(static_cast<MaskLane<T>>(count)));
-        else bits = _mm_cvtsi32_si128(count);
+#ifdef __AVX2__
+        // 32- and 64-bit lanes have shifts by a count per lane, which cost less than those by one for all.
+        bits = sizeof(T) >= 4 ? ints(Set<MaskLane<T>>(static_cast<MaskLane<T>>(count)))
+                              : _mm256_zextsi128_si256(_mm_cvtsi32_si128(count));
+#else
+        bits = _mm_cvtsi32_si128(count);
+#endif
+    }
+    PXL_INLINE __m128i forAll() const {
+#ifdef __AVX2__
+        return _mm256_castsi256_si128(bits);
+#else
+        return bits;
+#endif
     }
 };
 
 template <class T>
 PXL_INLINE Vec<T> operator<<(Vec<T> v, ShiftCount<T> count) {
-    if constexpr (sizeof(T) <= 2) return fromInts<T>(PXL_VEC_OP(sll_epi16)(ints(v), count.bits));
+    if constexpr (sizeof(T) <= 2) return fromInts<T>(PXL_VEC_OP(sll_epi16)(ints(v), count.forAll()));
 #ifdef __AVX2__
     if constexpr (sizeof(T) == 4) return fromInts<T>(_mm256_sllv_epi32(ints(v), count.bits));
-    if constexpr (sizeof(T) == 8) return fromInts<T>(_mm256_sllv_epi64(ints(v), count.bits));
 #else
     if constexpr (sizeof(T) == 4) return fromInts<T>(_mm_sll_epi32(ints(v), count.bits));
-    if constexpr (sizeof(T) == 8) return fromInts<T>(_mm_sll_epi64(ints(v), count.bits));
 #endif
 }
 template <class T>
 PXL_INLINE Vec<T> operator>>(Vec<T> v, ShiftCount<T> count) {
-    constexpr bool arithmetic = std::is_signed_v<T>;
-    static_assert(!arithmetic || sizeof(T) == 2 || sizeof(T) == 4);
+    constexpr bool sign = std::is_signed_v<T>;
+    static_assert(!sign || sizeof(T) == 2 || sizeof(T) == 4);
     if constexpr (sizeof(T) <= 2)
-        return fromInts<T>(arithmetic ? PXL_VEC_OP(sra_epi16)(ints(v), count.bits)
-                                      : PXL_VEC_OP(srl_epi16)(ints(v), count.bits));
+        return fromInts<T>(sign ? PXL_VEC_OP(sra_epi16)(ints(v), count.forAll())
+                                : PXL_VEC_OP(srl_epi16)(ints(v), count.forAll()));
 #ifdef __AVX2__
     if constexpr (sizeof(T) == 4)
-        return fromInts<T>(arithmetic ? _mm256_srav_epi32(ints(v), count.bits) : _mm256_srlv_epi32(ints(v), count.bits));
+        return fromInts<T>(sign ? _mm256_srav_epi32(ints(v), count.bits) : _mm256_srlv_epi32(ints(v), count.bits));
     if constexpr (sizeof(T) == 8) return fromInts<T>(_mm256_srlv_epi64(ints(v), count.bits));
 #else
     if constexpr (sizeof(T) == 4)
-        return fromInts<T>(arithmetic ? _mm_sra_epi32(ints(v), count.bits) : _mm_srl_epi32(ints(v), count.bits));
+        return fromInts<T>(sign ? _mm_sra_epi32(ints(v), count.bits) : _mm_srl_epi32(ints(v), count.bits));
     if constexpr (sizeof(T) == 8) return fromInts<T>(_mm_srl_epi64(ints(v), count.bits));
 #endif
 }
 
-// ---- blocks of 16 bytes ------------------------------------------------------------------------------------------------------
+// ---- blocks of 16 bytes ---------------------------------------------------------------------------------------------
 
-// The counterpart of InterleaveLowerBlocks and InterleaveUpperBlocks: of every block, the lanes of a and then those of b, read
-// as signed and saturated. 8u lanes take what 16s lanes hold, 16s lanes what 32s lanes hold.
+// The counterpart of InterleaveLowerBlocks and InterleaveUpperBlocks: of every block, the lanes of a and then those of
+// b, read as signed and saturated. 8u lanes take what 16s lanes hold, 16s and 16u lanes what 32s lanes hold.
 template <class Narrow, class Wide>
 PXL_INLINE Vec<Narrow> DemoteBlocks(Vec<Wide> lower, Vec<Wide> upper) {
     if constexpr (std::is_same_v<Narrow, uint8_t>)
         return fromInts<Narrow>(PXL_VEC_OP(packus_epi16)(ints(lower), ints(upper)));
     if constexpr (std::is_same_v<Narrow, int16_t>)
         return fromInts<Narrow>(PXL_VEC_OP(packs_epi32)(ints(lower), ints(upper)));
+#ifdef __AVX2__
+    if constexpr (std::is_same_v<Narrow, uint16_t>)
+        return fromInts<Narrow>(_mm256_packus_epi32(ints(lower), ints(upper)));
+#else
+    if constexpr (std::is_same_v<Narrow, uint16_t>) return Demote2<Narrow>(lower, upper);
+#endif
 }
 
 } // namespace pxl::PXL_TARGET

@@ -6,7 +6,14 @@
 
 namespace pxl::PXL_TARGET {
 
-// ---- products of byte pairs --------------------------------------------------------------------------------------------------
+// A vector that stays in its register. Where it is used more than once, GCC would rather load it again for each use.
+template <class T>
+PXL_INLINE Vec<T> Held(Vec<T> v) {
+    asm("" : "+x"(v.raw));
+    return v;
+}
+
+// ---- products of byte pairs -----------------------------------------------------------------------------------------
 
 // Two 8-bit coefficients for lanes 2i and 2i + 1 of unsigned bytes.
 class BytePair {
@@ -40,20 +47,22 @@ private:
 #endif
 };
 
-// ---- narrowing -----------------------------------------------------------------------------------------------------------------
+// ---- narrowing ------------------------------------------------------------------------------------------------------
 
 // DemoteBlocks to any type half as wide, saturated; wide lanes are read as signed.
 template <class Narrow, class Wide>
 PXL_INLINE Vec<Narrow> SaturateBlocks(Vec<Wide> lower, Vec<Wide> upper) {
     if constexpr (!std::is_same_v<Narrow, uint16_t>) return DemoteBlocks<Narrow>(lower, upper);
 #ifdef __AVX2__
-    else return fromInts<Narrow>(_mm256_packus_epi32(ints(lower), ints(upper)));
+    else
+        return fromInts<Narrow>(_mm256_packus_epi32(ints(lower), ints(upper)));
 #else
-    else return Demote2<Narrow>(lower, upper);
+    else
+        return Demote2<Narrow>(lower, upper);
 #endif
 }
 
-// ---- single and double precision -------------------------------------------------------------------------------------------------
+// ---- single and double precision ------------------------------------------------------------------------------------
 
 // The lanes of the lower and of the upper half of the register.
 PXL_INLINE Vec<double> LowerToDouble(Vec<float> v) {
@@ -78,8 +87,8 @@ PXL_INLINE Vec<float> ConvertToFloat(Vec<double> lower, Vec<double> upper) {
 #endif
 }
 
-// Integers as doubles in two registers, and back from the lower half of every double: the lower and the upper half of each
-// block of 16 bytes.
+// Integers as doubles in two registers, and back from the lower half of every double: the lower and the upper half of
+// each block of 16 bytes.
 struct BlockDoubles {
     Vec<double> lower, upper;
 

@@ -1,6 +1,6 @@
-// Groups: the pixels of a 16-byte block with four elements each, so 4, 2 or 1 of them. With three elements they are 12 bytes,
-// which lie in a block of their own and leave its last 4 bytes free. All changes of the channels of a pixel are shuffles
-// inside such blocks.
+// Groups: the pixels of a 16-byte block with four elements each, so 4, 2 or 1 of them. With three elements they are 12
+// bytes, which lie in a block of their own and leave its last 4 bytes free. All changes of the channels of a pixel are
+// shuffles inside such blocks.
 #pragma once
 
 #include "frame/vec_interleave.h"
@@ -11,7 +11,8 @@ template <class T>
 inline constexpr int groupPixels = 4 / static_cast<int>(sizeof(T));
 inline constexpr int vecGroups = vecBytes / 16;
 
-// ---- memory ----------------------------------------------------------------------------------------------------------------
+// ---- memory
+// ----------------------------------------------------------------------------------------------------------------
 
 // The groups of four vectors from three vectors of dense pixels. The free bytes of a block are unspecified.
 template <class T>
@@ -70,11 +71,13 @@ PXL_INLINE void StoreGroups3(Vec<T> v0, Vec<T> v1, Vec<T> v2, Vec<T> v3, T* p) {
     Stores::store(BitCast<T>(w2), p + 2 * lanes<T>);
 }
 
-// ---- changes of the number of elements ---------------------------------------------------------------------------------------
+// ---- changes of the number of elements
+// ---------------------------------------------------------------------------------------
 
 #ifdef __AVX2__
 
-// Byte i of a block of the result is byte control[i] of that block of v, or 0 where the control has its highest bit set.
+// Byte i of a block of the result is byte control[i] of that block of v, or 0 where the control has its highest bit
+// set.
 template <class T>
 PXL_INLINE Vec<T> TableLookupBytesOr0(Vec<T> v, Vec<uint8_t> control) {
     return fromInts<T>(_mm256_shuffle_epi8(ints(v), ints(control)));
@@ -83,7 +86,9 @@ PXL_INLINE Vec<T> TableLookupBytesOr0(Vec<T> v, Vec<uint8_t> control) {
 // Three-element pixels to four elements, the fourth unspecified; and four-element pixels to three, the free bytes 0.
 template <class T>
 PXL_INLINE Vec<T> ExpandGroups(Vec<T> v) {
-    constexpr auto from = [](int i) { return i % 16 / int(4 * sizeof(T)) * int(3 * sizeof(T)) + i % int(4 * sizeof(T)); };
+    constexpr auto from = [](int i) {
+        return i % 16 / int(4 * sizeof(T)) * int(3 * sizeof(T)) + i % int(4 * sizeof(T));
+    };
     return TableLookupBytesOr0(v, fromLanes<uint8_t, from>());
 }
 template <class T>
@@ -106,13 +111,17 @@ struct OrderLookup {
 
     PXL_INLINE OrderLookup(const int32_t* from, T fill) {
         constexpr int size = sizeof(T);
-        // For every byte of a block: the place of its element's entry, and what it adds to the place of its source byte.
+        // For every byte of a block: the place of its element's entry, and what it adds to the place of its source
+        // byte.
         constexpr auto entry = [](int i) { return i % 16 < 4 * D ? i % 16 / size % D * 4 : 0x80; };
-        constexpr auto place = [](int i) { return i % 16 < 4 * D ? i % 16 / (D * size) * (S * size) + i % size : 0x80; };
+        constexpr auto place = [](int i) {
+            return i % 16 < 4 * D ? i % 16 / (D * size) * (S * size) + i % size : 0x80;
+        };
         const __m128i given = loadBlock<4 * Entries>(from) | _mm_setr_epi32(0, 0, 0, Entries == 3 ? 4 : 0);
         const __m256i entries = _mm256_broadcastsi128_si256(_mm_min_epi32(given, _mm_set1_epi32(4)));
         const Vec<uint8_t> order = TableLookupBytesOr0(fromInts<uint8_t>(entries), fromLanes<uint8_t, entry>());
-        const Vec<uint8_t> source = fromInts<uint8_t>(_mm256_slli_epi16(ints(order), std::countr_zero(sizeof(T))));
+        // Entries of at most 4 times 1, 2 or 4.
+        const Vec<uint8_t> source = fromInts<uint8_t>(_mm256_slli_epi16(ints(order), size / 2));
         control = (source + fromLanes<uint8_t, place>()) | (order > Set<uint8_t>(S - 1));
         value = IfThenElseZero(BitCast<T>(order == Set<uint8_t>(3)), Set<T>(fill));
         keep = BitCast<T>(order > Set<uint8_t>(3));

@@ -1,11 +1,12 @@
 // Interleaved pixels of three and four elements from memory to one vector per channel, and back.
 //
-// Every function moves Pixels pixels, by default as many as a vector has lanes, else a half, a quarter or an eighth of that,
-// down to 4 bytes per channel. Exactly the memory of those pixels is read or written; lanes behind them are unspecified.
+// Every function moves Pixels pixels, by default as many as a vector has lanes, else a half, a quarter or an eighth of
+// that, down to 4 bytes per channel. Exactly the memory of those pixels is read or written; lanes behind them are
+// unspecified.
 //
-// The 16-byte blocks of that memory are spread over one vector per element of the pixel, N in all: block k lies in the lower
-// half of vector k, and on AVX2 block k + N in its upper half. So each half of the vectors holds a run of consecutive
-// pixels, and no shuffle has to cross the halves.
+// The 16-byte blocks of that memory are spread over one vector per element of the pixel, N in all: block k lies in the
+// lower half of vector k, and on AVX2 block k + N in its upper half. So each half of the vectors holds a run of
+// consecutive pixels, and no shuffle has to cross the halves.
 #pragma once
 
 #include <utility>
@@ -15,7 +16,8 @@
 
 namespace pxl::PXL_TARGET {
 
-// ---- parts of a vector -------------------------------------------------------------------------------------------------------
+// ---- parts of a vector
+// -------------------------------------------------------------------------------------------------------
 
 // The first Bytes bytes of a block, zero behind them. Nothing else is read.
 template <int Bytes>
@@ -63,14 +65,14 @@ PXL_INLINE __m128i upperBlock(IntRegister r) { return _mm256_extracti128_si256(r
 template <int Lanes, class T>
 PXL_INLINE Vec<T> LoadPart(const T* p) {
     if constexpr (Lanes == lanes<T>) return LoadU(p);
-    return fromInts<T>(fromBlock(loadBlock<Lanes * static_cast<int>(sizeof(T))>(p)));
+    return fromInts<T>(fromBlock(loadBlock<Lanes* static_cast<int>(sizeof(T))>(p)));
 }
 template <int Lanes, class T>
 PXL_INLINE void StorePart(Vec<T> v, T* p) {
     if constexpr (Lanes == lanes<T>)
         StoreU(v, p);
     else
-        storeBlock<Lanes * static_cast<int>(sizeof(T))>(lowerBlock(ints(v)), p);
+        storeBlock<Lanes* static_cast<int>(sizeof(T))>(lowerBlock(ints(v)), p);
 }
 
 // Vector Index of the N that hold Bytes bytes from p on, arranged as said above.
@@ -118,7 +120,8 @@ PXL_INLINE void storePixels(const Vec<T> (&v)[N], T* p) {
 #endif
 }
 
-// ---- lanes -------------------------------------------------------------------------------------------------------------------
+// ---- lanes
+// -------------------------------------------------------------------------------------------------------------------
 
 template <class T>
 inline constexpr int blockLanes = 16 / static_cast<int>(sizeof(T));
@@ -128,7 +131,8 @@ template <class T, auto Lane>
 PXL_INLINE Vec<T> fromLanes() {
     return []<int... I>(std::integer_sequence<int, I...>) {
         return Vec<T>{typename Vec<T>::Raw{static_cast<T>(Lane(I))...}};
-    }(std::make_integer_sequence<int, lanes<T>>{});
+    }
+    (std::make_integer_sequence<int, lanes<T>>{});
 }
 // Ones in the lanes where Lane(i) holds.
 template <class T, auto Lane>
@@ -148,7 +152,8 @@ template <auto From, class T>
 PXL_INLINE Vec<T> shuffle2(Vec<T> a, Vec<T> b) {
     return [&]<int... I>(std::integer_sequence<int, I...>) {
         return Vec<T>{__builtin_shufflevector(a.raw, b.raw, From(I)...)};
-    }(std::make_integer_sequence<int, lanes<T>>{});
+    }
+    (std::make_integer_sequence<int, lanes<T>>{});
 }
 // Lane i of the result is lane From(i of its block) of the same block.
 template <auto From, class T>
@@ -181,19 +186,21 @@ PXL_INLINE void blendChannel(Vec<T> (&v)[N], const Vec<T> (&from)[N]) {
     if constexpr (N == 4) v[3] = blendChannelOf<Channel, N, 3>(v[3], from[3]);
 }
 
-// ---- three elements ------------------------------------------------------------------------------------------------------
+// ---- three elements
+// ------------------------------------------------------------------------------------------------------
 
 #ifdef __AVX2__
 
-// In any lane each of the three vectors holds another channel, because 3 does not divide the lanes of a block. So the vectors
-// trade lanes until each holds one channel, and a shuffle in the blocks sorts its pixels.
+// In any lane each of the three vectors holds another channel, because 3 does not divide the lanes of a block. So the
+// vectors trade lanes until each holds one channel, and a shuffle in the blocks sorts its pixels.
 
 // Lane k of a block to the lane where the channel stands in pixel k of a block, for all three vectors; and back.
 template <int Channel, class T>
 PXL_INLINE Vec<T> spreadLanes3(Vec<T> v) {
     return shuffleBlocks<[](int i) {
         int k = 0;
-        while ((3 * k + Channel) % blockLanes<T> != i) ++k;
+        while ((3 * k + Channel) % blockLanes<T> != i)
+            ++k;
         return k;
     }>(v);
 }
@@ -205,8 +212,7 @@ PXL_INLINE Vec<T> gatherLanes3(Vec<T> v) {
 // One channel of three vectors of pixels.
 template <int Channel, class T>
 PXL_INLINE Vec<T> gatherChannel3(const Vec<T> (&v)[3]) {
-    return gatherLanes3<Channel>(
-        blendChannelOf<Channel, 3, 2>(blendChannelOf<Channel, 3, 1>(v[0], v[1]), v[2]));
+    return gatherLanes3<Channel>(blendChannelOf<Channel, 3, 2>(blendChannelOf<Channel, 3, 1>(v[0], v[1]), v[2]));
 }
 template <int Index, class T>
 PXL_INLINE Vec<T> joinChannels3(const Vec<T> (&spread)[3]) {
@@ -285,7 +291,8 @@ PXL_INLINE void joinBlocks(__m128i& v0, __m128i& v1, __m128i& v2, __m128i v3) {
     v2 = _mm_srli_si128(v2, 8) | _mm_slli_si128(v3, 4);
 }
 
-// One step of the perfect shuffle of all elements: element i of their first half, and element i of the second behind it.
+// One step of the perfect shuffle of all elements: element i of their first half, and element i of the second behind
+// it.
 template <class T>
 PXL_INLINE void perfectShuffle(Vec<T> (&v)[3]) {
     const auto upper = [](Vec<T> a) { return fromInts<T>(_mm_unpackhi_epi64(ints(a), ints(a))); };
@@ -315,7 +322,8 @@ PXL_INLINE void deinterleave(Vec<T> (&v)[N]) {
 
 #endif
 
-// ---- four elements -------------------------------------------------------------------------------------------------------------
+// ---- four elements
+// -------------------------------------------------------------------------------------------------------------
 
 // Channels to pixels: the second elements behind the first and the fourth behind the third, then these pairs.
 template <class T>
@@ -333,8 +341,8 @@ PXL_INLINE void interleave(Vec<T> (&v)[4]) {
 
 #ifdef __AVX2__
 
-// Pixels to channels. Blocks sorted by channel (a a a a b b b b c c c c d d d d for bytes) hold one 32-bit lane per channel,
-// and interleaving four such blocks is the 4x4 transpose that brings the lanes of a channel together.
+// Pixels to channels. Blocks sorted by channel (a a a a b b b b c c c c d d d d for bytes) hold one 32-bit lane per
+// channel, and interleaving four such blocks is the 4x4 transpose that brings the lanes of a channel together.
 template <class T>
 PXL_INLINE void deinterleave(Vec<T> (&v)[4]) {
     constexpr int pixels = blockLanes<T> / 4;
@@ -365,7 +373,8 @@ PXL_INLINE void interleave(Vec<T> (&v)[3]) {
 
 #endif
 
-// ---- from memory and back ------------------------------------------------------------------------------------------------------
+// ---- from memory and back
+// ------------------------------------------------------------------------------------------------------
 
 template <class T, int Pixels = lanes<T>>
 PXL_INLINE void LoadInterleaved3(const T* p, Vec<T>& a, Vec<T>& b, Vec<T>& c) {
@@ -400,7 +409,8 @@ PXL_INLINE void StoreInterleaved4(Vec<T> a, Vec<T> b, Vec<T> c, Vec<T> d, T* p) 
     storePixels<Pixels>(v, p);
 }
 
-// ---- one channel ---------------------------------------------------------------------------------------------------------------
+// ---- one channel
+// ---------------------------------------------------------------------------------------------------------------
 
 // One channel of N vectors of pixels.
 template <int Channel, int N, class T>

@@ -1,4 +1,5 @@
-// Stores that pass by the caches, for images that would not stay there: the lines that they fill need not be read first.
+// Stores that pass by the caches, for images that would not stay there: the lines that they fill need not be read
+// first.
 #pragma once
 
 #include "frame/vec.h"
@@ -6,8 +7,8 @@
 
 namespace pxl::PXL_TARGET {
 
-// From this size on, all operands together, streamed stores were faster (measured with 2 MB of L2 and a shared L3: up to a
-// fifth slower at 46 MB, up to twice as fast above 50 MB).
+// From this size on, all operands together, streamed stores were faster (measured with 2 MB of L2 and a shared L3: up
+// to a fifth slower at 46 MB, up to twice as fast above 50 MB).
 inline constexpr ptrdiff_t streamedBytes = 48'000'000;
 
 // The two ways to store a vector. Streamed stores need an address that is a multiple of 32.
@@ -37,9 +38,9 @@ inline bool isAligned(const Operand<T>& o) {
 
 // Whether rows of the written operands may and should be streamed. Operands are disjoint where this is used.
 template <class... T>
-inline bool isStreamed(ImageSize roi, const Operand<T>&... o) {
+inline bool isStreamed(ptrdiff_t width, ptrdiff_t height, const Operand<T>&... o) {
     const ptrdiff_t pixelBytes = (... + o.pixelBytes);
-    return pixelBytes * roi.width * roi.height >= streamedBytes && (... && (!Operand<T>::written || isAligned(o)));
+    return pixelBytes * width * height >= streamedBytes && (... && (!Operand<T>::written || isAligned(o)));
 }
 
 // Orders streamed stores before whatever the caller does next.

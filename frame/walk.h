@@ -3,8 +3,8 @@
 // Decided here once, for all families:
 //   - offsets are 64-bit: a row offset can exceed 2^31;
 //   - regions whose operands are all contiguous are walked as one long row;
-//   - overlap: a kernel is called with rows that are disjoint or exactly in place. Where a written operand overlaps another
-//     one in any other way, the kernel is called for one pixel at a time, from left to right, which is the plain loop.
+//   - overlap: a kernel is called with rows that are disjoint or exactly in place. Where a written operand overlaps
+//     another one in any other way, the kernel is called for one pixel at a time, from left to right: the plain loop.
 //
 // A kernel is a callable (ptrdiff_t pixels, pointers...) whose pointers come in the order of the operands. It must load all
 // that a store may overwrite before the store when a source is the destination itself, and must never touch anything behind
@@ -85,8 +85,15 @@ inline void walkRows(ptrdiff_t width, ptrdiff_t height, Kernel&& kernel, Operand
         width *= height;
         height = 1;
     }
+    if (apart) {
+        for (; height > 0; --height) {
+            kernel(width, o.base...);
+            (..., (o.base = o.at(0, 1)));
+        }
+        return;
+    }
     for (ptrdiff_t y = 0; y < height; ++y) {
-        const ptrdiff_t run = apart || !rowConflict(width, y, o...) ? width : 1;
+        const ptrdiff_t run = rowConflict(width, y, o...) ? 1 : width;
         for (ptrdiff_t x = 0; x < width; x += run) kernel(run, o.at(x, y)...);
     }
 }

@@ -97,10 +97,11 @@ struct Range {
 // Ranges from 0, around it, near it and far away, some too narrow for their place, some with overflow or NaN on the
 // way.
 TEST(Rounding, ScaleFromFloat) {
-    constexpr Range ranges[] = {{0, 1},       {-0.0f, 255},  {-1, 1},          {-32, 288},           {0.001f, 0.7f},
-                                {-0.5f, 127}, {1e-8f, 1},    {1e6f, 1e6f + 1}, {16777216, 16777220}, {-1e-37f, 1e-37f},
-                                {0, 1e-38f},  {0, infinity}, {-infinity, 5},   {-3e38f, 3e38f},      {1e30f, 2e30f},
-                                {nan, 1},     {0, nan}};
+    constexpr Range ranges[] = {
+        {0, 1},      {-0.0f, 255},     {-1, 1},          {-32, 288},           {0.001f, 0.7f},       {-0.5f, 127},
+        {1e-8f, 1},  {1e6f, 1e6f + 1}, {777777, 777782}, {10000003, 10000012}, {16777216, 16777220}, {-1e-37f, 1e-37f},
+        {0, 1e-38f}, {0, infinity},    {-infinity, 5},   {-3e38f, 3e38f},      {1e30f, 2e30f},       {nan, 1},
+        {0, nan}};
     for (const Range& range : ranges) {
         std::vector<float> values = {nan, infinity, -infinity, 0.0f, range.low, range.high, 3e38f, -3e38f};
         for (int half = -4; half <= 516; ++half)

@@ -14,6 +14,8 @@ float randomReal(Random& random) {
                                          0.5f,
                                          -0.5f,
                                          0.49999997f,
+                                         0.50000006f,
+                                         -0.50000006f,
                                          1.5f,
                                          2.5f,
                                          -2.5f,
