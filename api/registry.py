@@ -10,6 +10,7 @@ API = Path(__file__).parent
 SUBSYSTEMS = [  # header order
     ("frame", "Version and image memory"),
     ("exchange", "Data exchange"),
+    ("arith", "Arithmetic and logic"),
 ]
 
 

@@ -1,6 +1,10 @@
 // The images behind the benchmark pairs, the comparison of the two results, and the program's entry.
 #include "pair.h"
 
+#include "pxlcore.h"
+
+#include <opencv2/core/utility.hpp>
+
 #include <cstring>
 #include <fstream>
 #include <iostream>
@@ -21,19 +25,28 @@ void fillRandom(cv::Mat& image, uint64_t seed) {
     cv::RNG(seed).fill(image, cv::RNG::UNIFORM, cv::Scalar::all(low), cv::Scalar::all(high));
 }
 
-cv::Mat allocate(int type, Shape shape, bool strided) {
-    if (!strided) return cv::Mat(shape.height, shape.width, type);
-    const cv::Mat whole(shape.height + 4, shape.width + 32, type);
-    return whole(cv::Rect(3, 2, shape.width, shape.height));
+// A random image, and in a strided one or one with a reach the pixels around it.
+cv::Mat allocate(int type, Shape shape, bool strided, int reach, uint64_t seed) {
+    const cv::Size around = strided ? cv::Size(32, 4) : cv::Size();
+    cv::Mat whole(shape.height + 2 * reach + around.height, shape.width + 2 * reach + around.width, type);
+    fillRandom(whole, seed);
+    const cv::Point origin = strided ? cv::Point(3, 2) : cv::Point();
+    return whole(cv::Rect(origin.x + reach, origin.y + reach, shape.width, shape.height));
 }
 
-// One image per role ('s', 'd' or 'm', and its number), type and shape, kept to the end of the program.
-cv::Mat pooled(char role, size_t number, int type, Shape shape, bool strided) {
-    static std::map<std::tuple<char, size_t, int, int, int, bool>, cv::Mat> pool;
-    cv::Mat& image = pool[{role, number, type, shape.width, shape.height, strided}];
+void replaceZeros(cv::Mat& image) {
+    cv::Mat elements = image.reshape(1);
+    elements.setTo(1, elements == 0);
+}
+
+// One image per role ('s', 'n' for a source without zeros, 'd' or 'm', and its number), type, shape and surroundings,
+// kept to the end of the program.
+cv::Mat pooled(char role, size_t number, int type, Shape shape, bool strided, int reach = 0) {
+    static std::map<std::tuple<char, size_t, int, int, int, bool, int>, cv::Mat> pool;
+    cv::Mat& image = pool[{role, number, type, shape.width, shape.height, strided, reach}];
     if (image.empty()) {
-        image = allocate(type, shape, strided);
-        fillRandom(image, static_cast<uint64_t>(role) * 16 + number);
+        image = allocate(type, shape, strided, reach, static_cast<uint64_t>(role) * 16 + number);
+        if (role == 'n') replaceZeros(image);
         if (role == 'm') cv::compare(image, 127, image, cv::CMP_GT);
     }
     return image;
@@ -50,8 +63,9 @@ void refill(std::vector<cv::Mat>& images) {
 }
 
 bool same(const cv::Mat& a, const cv::Mat& b, double tolerance) {
-    if (tolerance > 0) return cv::norm(a, b, cv::NORM_INF) <= tolerance;
-    return cv::countNonZero(a.reshape(1) != b.reshape(1)) == 0;
+    if (tolerance == 0) return cv::countNonZero(a.reshape(1) != b.reshape(1)) == 0;
+    const double unit = a.depth() == CV_32F ? cv::norm(b, cv::NORM_INF) : 1;
+    return cv::norm(a, b, cv::NORM_INF) <= tolerance * unit;
 }
 
 // Empty when both sides give the same result from the same start, otherwise what is wrong.
@@ -98,7 +112,7 @@ std::string commandLine(int argc, char** argv) {
 
 Frame::Frame(const Operands& operands, Shape shape) : size{shape.width, shape.height} {
     for (int type : operands.src)
-        src.push_back(pooled('s', src.size(), type, shape, operands.strided));
+        src.push_back(pooled(operands.nonzero ? 'n' : 's', src.size(), type, shape, operands.strided, operands.reach));
     for (int type : operands.dst)
         dst.push_back(pooled('d', dst.size(), type, destinationShape(operands, shape), operands.strided));
     if (operands.mask) mask = pooled('m', 0, CV_8UC1, shape, operands.strided);
@@ -110,6 +124,15 @@ int64_t Frame::bytes() const {
         for (const cv::Mat& image : *images)
             sum += image.total() * image.elemSize();
     return static_cast<int64_t>(sum);
+}
+
+void Team::set(int threads) {
+    cv::setNumThreads(threads);
+    pxlcoreSetNumThreads(threads);
+}
+
+std::span<const Shape> shapesOf(const Operands& operands) {
+    return std::span(kShapes).subspan(operands.threads > 1 ? 1 : 0);
 }
 
 std::string benchmarkName(const std::string& row, const char* side, Shape shape) {
@@ -153,7 +176,6 @@ int failures() { return failedRows; }
 } // namespace pxlbench
 
 int main(int argc, char** argv) {
-    cv::setNumThreads(1);
     benchmark::AddCustomContext("cpu", pxlbench::cpuModel());
     benchmark::AddCustomContext("compiler", "g++ " __VERSION__);
     benchmark::AddCustomContext("opencv", CV_VERSION);

@@ -2,6 +2,7 @@
 //
 // A row names its operands by OpenCV type code and gives two callables over a Frame; addPair() registers
 // `<row>/pxl/<size>`, `<row>/opencv/<size>` and, where the row asks for one, the memory floor `<row>/memcpy/<size>`.
+// What OpenCV has no call for is registered by addAlone(). Both sides use one thread unless the operands say otherwise.
 // Before the first timing of a row and size both sides run once on the same bytes and must give the same result.
 // report.py pairs the names and makes the tables.
 #pragma once
@@ -12,7 +13,9 @@
 #include <opencv2/core.hpp>
 
 #include <functional>
+#include <span>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 namespace pxlbench {
@@ -32,11 +35,16 @@ struct Operands {
     std::vector<int> src{}; // OpenCV type of each source image; a planar image counts once per plane
     std::vector<int> dst{};
     bool mask = false;       // an 8u mask, about half of it set, at random
+    bool nonzero = false;    // no element of a source is 0
+    int reach = 0;           // so many more pixels lie on each side of a source, for both sides to read
     int margin = 0;          // the destination is larger than the source by this much on each side
     bool transposed = false; // the destination is height x width
     bool strided = false;    // every image is a region of a larger one: rows neither contiguous nor aligned
     Floor floor = Floor::None;
-    double tolerance = 0; // allowed difference of the two results; 0 compares every element for equality
+    int threads = 1; // team size of both sides
+    // Allowed difference of the two results, for floats relative to the largest of them; 0 compares every element for
+    // equality.
+    double tolerance = 0;
 };
 
 // The images of one row at one size. Pixels are shared by all rows and both sides (same addresses, same pages), so
@@ -52,12 +60,12 @@ struct Frame {
     T* out(size_t i = 0) {
         return dst[i].ptr<T>();
     }
-    int inStep() const { return static_cast<int>(src[0].step); }
+    int inStep(size_t i = 0) const { return static_cast<int>(src[i].step); }
     int outStep() const { return static_cast<int>(dst[0].step); }
     int maskStep() const { return static_cast<int>(mask.step); }
     ImageSize outSize() const { return {dst[0].cols, dst[0].rows}; }
     int64_t pixels() const { return static_cast<int64_t>(dst[0].total()); }
-    int64_t bytes() const; // of all images: what is read plus what is written
+    int64_t bytes() const; // of all images: what is read plus what is written, without the reach
 
     std::vector<cv::Mat> src;
     std::vector<cv::Mat> dst;
@@ -76,6 +84,35 @@ template <class T>
 PxlStatus masked(PxlStatus (*function)(const T*, int, T*, int, ImageSize, const uint8_t*, int), Frame& f) {
     return unary(function, f, static_cast<const uint8_t*>(f.mask.data), f.maskStep());
 }
+
+// The same for two sources.
+template <class S, class D, class... Rest, class... Own>
+PxlStatus binary(PxlStatus (*function)(const S*, int, const S*, int, D*, int, ImageSize, Rest...), Frame& f,
+                 Own... own) {
+    return function(f.in<S>(0), f.inStep(0), f.in<S>(1), f.inStep(1), f.out<D>(), f.outStep(), f.size, own...);
+}
+
+// The same for a source and a constant, which is an array where there are several channels.
+template <class S, class Value, class D, class... Rest, class... Own>
+PxlStatus withConstant(PxlStatus (*function)(const S*, int, Value, D*, int, ImageSize, Rest...), Frame& f,
+                       std::type_identity_t<Value> value, Own... own) {
+    return function(f.in<S>(), f.inStep(), value, f.out<D>(), f.outStep(), f.size, own...);
+}
+
+// While it lives, both libraries use this many threads; otherwise one.
+class Team {
+public:
+    explicit Team(int threads) { set(threads); }
+    ~Team() { set(1); }
+    Team(const Team&) = delete;
+    Team& operator=(const Team&) = delete;
+
+private:
+    static void set(int threads);
+};
+
+// The sizes of a row: the smallest is not worth a second thread.
+std::span<const Shape> shapesOf(const Operands& operands);
 
 std::string benchmarkName(const std::string& row, const char* side, Shape shape);
 
@@ -101,20 +138,28 @@ void timeCalls(benchmark::State& state, Frame& frame, Call call) {
     state.SetBytesProcessed(state.iterations() * frame.bytes());
 }
 
+// Registers one side of a row at one size; check(state, frame) tells whether it may be timed.
+template <class Check, class Call>
+void addSide(const std::string& row, const char* side, const Operands& operands, Shape shape, Check check, Call call) {
+    auto body = [=](benchmark::State& state) {
+        const Team team(operands.threads);
+        Frame frame(operands, shape);
+        if (check(state, frame)) timeCalls(state, frame, call);
+    };
+    auto* added = benchmark::RegisterBenchmark(benchmarkName(row, side, shape).c_str(), body);
+    // The processor time of the calling thread misses what its team does.
+    if (operands.threads > 1) added->UseRealTime();
+}
+
 template <class Ours, class Peer>
 void addPair(const std::string& row, const Operands& operands, Ours ours, Peer peer) {
-    for (Shape shape : kShapes) {
-        auto add = [&](const char* side, auto call) {
-            auto body = [=](benchmark::State& state) {
-                Frame frame(operands, shape);
-                if (verified(
-                        state, row, operands, frame, [&] { return ours(frame); }, [&] { peer(frame); }))
-                    timeCalls(state, frame, call);
-            };
-            benchmark::RegisterBenchmark(benchmarkName(row, side, shape).c_str(), body);
-        };
-        add("pxl", ours);
-        add("opencv", peer);
+    auto check = [=](benchmark::State& state, Frame& frame) {
+        return verified(
+            state, row, operands, frame, [&] { return ours(frame); }, [&] { peer(frame); });
+    };
+    for (Shape shape : shapesOf(operands)) {
+        addSide(row, "pxl", operands, shape, check, ours);
+        addSide(row, "opencv", operands, shape, check, peer);
         if (operands.floor != Floor::None) addFloor(row, operands, shape);
     }
 }
@@ -127,18 +172,38 @@ void addPairAndStrided(const std::string& row, Operands operands, Ours ours, Pee
     addPair(row + "_strided", operands, ours, peer);
 }
 
+// The row on one thread, and again as `<row>_2threads`.
+template <class Ours, class Peer>
+void addPairAndTwoThreads(const std::string& row, Operands operands, Ours ours, Peer peer) {
+    addPair(row, operands, ours, peer);
+    operands.threads = 2;
+    addPair(row + "_2threads", operands, ours, peer);
+}
+
+// Our side of a row at one size, without a peer.
+template <class Ours>
+void addOurs(const std::string& row, const Operands& operands, Shape shape, Ours ours) {
+    auto check = [=](benchmark::State& state, Frame& frame) {
+        return verified(state, row, operands, frame, [&] { return ours(frame); }, {});
+    };
+    addSide(row, "pxl", operands, shape, check, ours);
+}
+
+// A row that OpenCV has no call for: it is held against its memory floor only, and checked for its status only.
+template <class Ours>
+void addAlone(const std::string& row, const Operands& operands, Ours ours) {
+    for (Shape shape : shapesOf(operands)) {
+        addOurs(row, operands, shape, ours);
+        if (operands.floor != Floor::None) addFloor(row, operands, shape);
+    }
+}
+
 // What a call costs before the pixels count: 8 x 8 regions, contiguous and strided, without a peer.
 template <class Ours>
 void addTiny(const std::string& row, Operands operands, Ours ours) {
-    constexpr Shape shape{8, 8};
     for (bool strided : {false, true}) {
         operands.strided = strided;
-        const std::string name = "tiny_" + row + (strided ? "_strided" : "");
-        auto body = [=](benchmark::State& state) {
-            Frame frame(operands, shape);
-            if (verified(state, name, operands, frame, [&] { return ours(frame); }, {})) timeCalls(state, frame, ours);
-        };
-        benchmark::RegisterBenchmark(benchmarkName(name, "pxl", shape).c_str(), body);
+        addOurs("tiny_" + row + (strided ? "_strided" : ""), operands, {8, 8}, ours);
     }
 }
 

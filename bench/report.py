@@ -3,6 +3,7 @@
 
     bench/report.py                                    all rows, build/bench/bench/pxl_bench
     bench/report.py --filter 'copy_.*/640x480' --min-time 0.2
+    bench/report.py --subject filter --subject box     the rows of these subjects, named as in TITLES
     bench/report.py --from results.json                tables of an earlier run
 
 Every number is the median of the repetitions of one interleaved run. Exit status 1: a row failed its check.
@@ -19,6 +20,7 @@ ROOT = pathlib.Path(__file__).resolve().parent.parent
 LEVEL = 0.97  # a ratio below this, noise allowed for, is behind the peer
 TINY_NS = 25  # what a call on 8x8 may cost
 FLOORS = ("memcpy", "memset")
+TWO_THREADS = "_2threads"  # ends the name of a row that runs again on two threads
 TITLES = {
     "copy": "Copy",
     "set": "Set",
@@ -32,13 +34,26 @@ TITLES = {
     "border": "Border extension",
     "flip": "Mirror",
     "transpose": "Transpose",
+    "add": "Add",
+    "sub": "Subtract",
+    "mul": "Multiply",
+    "div": "Divide",
+    "complex": "Complex arithmetic",
+    "addc": "Add a constant",
+    "mulc": "Multiply by a constant",
+    "logical": "Bitwise operations",
+    "shift": "Shifts",
+    "filter": "Linear filters",
+    "box": "Box filters",
 }
 
 
 def arguments():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("binary", type=pathlib.Path, nargs="?", default=ROOT / "build/bench/bench/pxl_bench")
-    parser.add_argument("--filter", default="", help="regular expression on benchmark names (row/side/size)")
+    rows = parser.add_mutually_exclusive_group()
+    rows.add_argument("--filter", default="", help="regular expression on benchmark names (row/side/size)")
+    rows.add_argument("--subject", action="append", default=[], metavar="NAME", help="rows of this subject only")
     parser.add_argument("--min-time", type=float, default=0.05, help="seconds per repetition (default 0.05)")
     parser.add_argument("--repetitions", type=int, default=5)
     parser.add_argument("--json", type=pathlib.Path, help="where the raw results go (default: beside the binary)")
@@ -50,6 +65,10 @@ def from_root(path):
     """The path as typed at the root of the tree, so that the command in the report works on any checkout."""
     path = path.resolve()
     return f"./{path.relative_to(ROOT)}" if path.is_relative_to(ROOT) else str(path)
+
+
+def subject_of(row):
+    return row.split("_")[0]
 
 
 def run(options):
@@ -64,8 +83,8 @@ def run(options):
         f"--benchmark_out={from_root(results)}",
         "--benchmark_out_format=json",
     ]
-    if options.filter:
-        command.append(f"--benchmark_filter={options.filter}")
+    if wanted := options.filter or (options.subject and f"^({'|'.join(options.subject)})_"):
+        command.append(f"--benchmark_filter={wanted}")
     done = subprocess.run(command, stdout=sys.stderr, cwd=ROOT)
     if done.returncode not in (0, 1):
         sys.exit(f"{options.binary} ended with status {done.returncode}")
@@ -77,7 +96,7 @@ def medians(benchmarks):
     rows = defaultdict(dict)
     for entry in sorted(benchmarks, key=lambda entry: entry["family_index"]):
         if entry.get("aggregate_name") == "median":
-            row, side, size = entry["run_name"].split("/")
+            row, side, size = entry["run_name"].split("/")[:3]  # a fourth part tells the clock
             rows[row, size][side] = entry
     return rows
 
@@ -85,13 +104,14 @@ def medians(benchmarks):
 def head(context):
     yield f"- CPU: {context['cpu']}, {context['num_cpus']} cores at {context['mhz_per_cpu']} MHz"
     yield f"- Compiler: {context['compiler']}"
-    yield f"- Peer: OpenCV {context['opencv']}, one thread"
+    yield f"- Peer: OpenCV {context['opencv']}, one thread on each side (two in rows ending in {TWO_THREADS})"
     yield f"- Date: {context['date'][:10]}"
     yield f"- Command: `{context['command']}`"
     yield ""
     yield (
         "Medians. MPix/s counts destination pixels; GB/s is the size of all operands, read and written, over time. "
-        "The last column is our share of the rate of a memcpy (for set: memset) that moves as many bytes. "
+        "`of memcpy` is our share of the rate of a memcpy (for set: memset) that moves as many bytes; "
+        "`gain` is the rate on two threads, by the wall clock, over that on one, ours / OpenCV's. "
         f"Ratios below {LEVEL} are in bold."
     )
 
@@ -100,18 +120,32 @@ def rate(entry):
     return f"{entry['items_per_second'] / 1e6:.0f}"
 
 
-def pair_line(row, size, sides):
+def pair_line(rows, row, size):
     """One table line, or None when the run holds no number of ours for it (filtered out, or failed its check)."""
+    sides = rows[row, size]
     ours, peer = sides.get("pxl"), sides.get("opencv")
     if not ours:
         return None
-    floor = next((sides[name] for name in FLOORS if name in sides), None)
-    share = f"{ours['bytes_per_second'] / floor['bytes_per_second']:.0%}" if floor else ""
     ratio = f"{ratio_of(sides):.2f}" if peer else ""
     if behind(sides):
         ratio = f"**{ratio}**"
-    cells = [row, size, rate(ours), rate(peer) if peer else "", ratio, f"{ours['bytes_per_second'] / 1e9:.1f}", share]
+    last = gains(rows, row, size) or share_of_floor(sides)
+    cells = [row, size, rate(ours), rate(peer) if peer else "", ratio, f"{ours['bytes_per_second'] / 1e9:.1f}", last]
     return "| " + " | ".join(cells) + " |"
+
+
+def share_of_floor(sides):
+    floor = next((sides[name] for name in FLOORS if name in sides), None)
+    return f"{sides['pxl']['bytes_per_second'] / floor['bytes_per_second']:.0%}" if floor else ""
+
+
+def gains(rows, row, size):
+    """What the second thread brought each side, by the clock on the wall; empty for rows on one thread."""
+    if not row.endswith(TWO_THREADS):
+        return ""
+    one, two = rows.get((row.removesuffix(TWO_THREADS), size), {}), rows[row, size]
+    pairs = [(one[side], two[side]) for side in ("pxl", "opencv") if side in one and side in two]
+    return " / ".join(f"{single['real_time'] / double['real_time']:.2f}" for single, double in pairs)
 
 
 def ratio_of(sides):
@@ -124,14 +158,16 @@ def behind(sides):
 
 def pair_tables(rows):
     subjects = defaultdict(list)
-    for (row, size), sides in rows.items():
-        if line := pair_line(row, size, sides):
-            subjects[row.split("_")[0]].append(line)
+    for row, size in rows:
+        if line := pair_line(rows, row, size):
+            subjects[subject_of(row)].append(line)
     # Subjects without a title of their own, as those of later programs, are called by their prefix.
     order = [name for name in TITLES if name in subjects] + [name for name in subjects if name not in TITLES]
+    threaded = {subject_of(row) for row, _ in rows if row.endswith(TWO_THREADS)}
     for subject in order:
+        last = "gain" if subject in threaded else "of memcpy"
         yield f"\n### {TITLES.get(subject, subject.capitalize())}\n"
-        yield "| row | size | ours MPix/s | OpenCV MPix/s | ratio | ours GB/s | of memcpy |"
+        yield f"| row | size | ours MPix/s | OpenCV MPix/s | ratio | ours GB/s | {last} |"
         yield "|---|---|---:|---:|---:|---:|---:|"
         yield from subjects[subject]
 
@@ -145,8 +181,10 @@ def tiny_table(rows):
         yield f"| {row.removeprefix('tiny_')} | {f'**{time}**' if sides['pxl']['cpu_time'] >= TINY_NS else time} |"
 
 
-def report(results):
+def report(results, subjects):
     rows = medians(results["benchmarks"])
+    if subjects:
+        rows = {key: sides for key, sides in rows.items() if subject_of(key[0]) in subjects}
     tiny = {key: sides for key, sides in rows.items() if key[0].startswith("tiny_")}
     pairs = {key: sides for key, sides in rows.items() if key not in tiny}
     yield from head(results["context"])
@@ -161,7 +199,7 @@ def report(results):
 def main():
     options = arguments()
     path, passed = (options.source, True) if options.source else run(options)
-    print("\n".join(report(json.loads(path.read_text()))))
+    print("\n".join(report(json.loads(path.read_text()), options.subject)))
     if not passed:
         sys.exit("some rows failed their check and are missing from the tables; see the messages above")
 

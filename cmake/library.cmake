@@ -2,8 +2,12 @@
 
 set(PXL_GENERATED ${CMAKE_BINARY_DIR}/generated)
 file(GLOB PXL_API CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/api/*)
-set(PXL_SUBSYSTEMS exchange)
-file(GLOB PXL_FAMILIES CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} exchange/*.cpp)
+set(PXL_SUBSYSTEMS exchange arith)
+set(PXL_FAMILIES)
+foreach(subsystem IN LISTS PXL_SUBSYSTEMS)
+    file(GLOB sources CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} ${subsystem}/*.cpp)
+    list(APPEND PXL_FAMILIES ${sources})
+endforeach()
 
 set(PXL_EXPORT_SOURCES ${PXL_GENERATED}/frame_exports.cpp)
 foreach(subsystem IN LISTS PXL_SUBSYSTEMS)

@@ -916,6 +916,1340 @@ PxlStatus pxliTranspose_32s_C1IR(int32_t* srcDst, int srcDstStep, ImageSize roiS
 PxlStatus pxliTranspose_32s_C3IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliTranspose_32s_C4IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 
+/* ==== Arithmetic and logic ============================================================================================= */
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Add (arith/add_sub.cpp)
+ *
+ * dst = src1 + src2. In place (I), srcDst is the second source and the destination. AC4: elements 0..2.
+ * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even, and
+ * saturate it; 32f and 32fc compute in single precision.
+ *   16u, scaleFactor >= 18: the result is 0 everywhere; then -8 is returned for a null source before anything else is tested.
+ * Statuses, in this order: C3 and C4 members: -6 width < 1; then all: -8 a pointer is null; -6 width or height < 1;
+ * complex members: -14 a step < 1. The steps of real members are not checked.
+ */
+PxlStatus pxliAdd_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_8u_C3RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_8u_C4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_8u_AC4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_8u_C1IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_8u_C3IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_8u_C4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_8u_AC4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_16u_C1RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_16u_C3RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_16u_C4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_16u_AC4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_16u_C1IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_16u_C3IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_16u_C4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_16u_AC4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_16s_C1RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_16s_C3RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_16s_C4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_16s_AC4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_16s_C1IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_16s_C3IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_16s_C4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_16s_AC4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAdd_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAdd_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAdd_32f_AC4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAdd_32f_C1IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAdd_32f_C3IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAdd_32f_C4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAdd_32f_AC4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAdd_16sc_C1RSfs(const Pxl16sc* src1, int src1Step, const Pxl16sc* src2, int src2Step, Pxl16sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_16sc_C3RSfs(const Pxl16sc* src1, int src1Step, const Pxl16sc* src2, int src2Step, Pxl16sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_16sc_AC4RSfs(const Pxl16sc* src1, int src1Step, const Pxl16sc* src2, int src2Step, Pxl16sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_16sc_C1IRSfs(const Pxl16sc* src, int srcStep, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_16sc_C3IRSfs(const Pxl16sc* src, int srcStep, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_16sc_AC4IRSfs(const Pxl16sc* src, int srcStep, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_32sc_C1RSfs(const Pxl32sc* src1, int src1Step, const Pxl32sc* src2, int src2Step, Pxl32sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_32sc_C3RSfs(const Pxl32sc* src1, int src1Step, const Pxl32sc* src2, int src2Step, Pxl32sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_32sc_AC4RSfs(const Pxl32sc* src1, int src1Step, const Pxl32sc* src2, int src2Step, Pxl32sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAdd_32sc_C1IRSfs(const Pxl32sc* src, int srcStep, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_32sc_C3IRSfs(const Pxl32sc* src, int srcStep, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_32sc_AC4IRSfs(const Pxl32sc* src, int srcStep, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAdd_32fc_C1R(const Pxl32fc* src1, int src1Step, const Pxl32fc* src2, int src2Step, Pxl32fc* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAdd_32fc_C3R(const Pxl32fc* src1, int src1Step, const Pxl32fc* src2, int src2Step, Pxl32fc* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAdd_32fc_AC4R(const Pxl32fc* src1, int src1Step, const Pxl32fc* src2, int src2Step, Pxl32fc* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAdd_32fc_C1IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAdd_32fc_C3IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAdd_32fc_AC4IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Sub (arith/add_sub.cpp)
+ *
+ * dst = src2 - src1. In place (I), srcDst is the second source and the destination. AC4: elements 0..2.
+ * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even, and
+ * saturate it; 32f and 32fc compute in single precision.
+ *   8u and 16u clamp a negative difference to 0 before scaling. 16u, scaleFactor >= 17: the result is 0 everywhere; then -8 is
+ *   returned for a null source before anything else is tested.
+ * Statuses, in this order: C3 and C4 members: -6 width < 1; then all: -8 a pointer is null; -6 width or height < 1;
+ * complex members: -14 a step < 1. The steps of real members are not checked.
+ */
+PxlStatus pxliSub_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_8u_C3RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_8u_C4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_8u_AC4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_8u_C1IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_8u_C3IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_8u_C4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_8u_AC4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_16u_C1RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_16u_C3RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_16u_C4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_16u_AC4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_16u_C1IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_16u_C3IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_16u_C4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_16u_AC4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_16s_C1RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_16s_C3RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_16s_C4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_16s_AC4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_16s_C1IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_16s_C3IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_16s_C4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_16s_AC4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliSub_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliSub_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliSub_32f_AC4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliSub_32f_C1IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliSub_32f_C3IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliSub_32f_C4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliSub_32f_AC4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliSub_16sc_C1RSfs(const Pxl16sc* src1, int src1Step, const Pxl16sc* src2, int src2Step, Pxl16sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_16sc_C3RSfs(const Pxl16sc* src1, int src1Step, const Pxl16sc* src2, int src2Step, Pxl16sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_16sc_AC4RSfs(const Pxl16sc* src1, int src1Step, const Pxl16sc* src2, int src2Step, Pxl16sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_16sc_C1IRSfs(const Pxl16sc* src, int srcStep, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_16sc_C3IRSfs(const Pxl16sc* src, int srcStep, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_16sc_AC4IRSfs(const Pxl16sc* src, int srcStep, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_32sc_C1RSfs(const Pxl32sc* src1, int src1Step, const Pxl32sc* src2, int src2Step, Pxl32sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_32sc_C3RSfs(const Pxl32sc* src1, int src1Step, const Pxl32sc* src2, int src2Step, Pxl32sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_32sc_AC4RSfs(const Pxl32sc* src1, int src1Step, const Pxl32sc* src2, int src2Step, Pxl32sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSub_32sc_C1IRSfs(const Pxl32sc* src, int srcStep, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_32sc_C3IRSfs(const Pxl32sc* src, int srcStep, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_32sc_AC4IRSfs(const Pxl32sc* src, int srcStep, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSub_32fc_C1R(const Pxl32fc* src1, int src1Step, const Pxl32fc* src2, int src2Step, Pxl32fc* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliSub_32fc_C3R(const Pxl32fc* src1, int src1Step, const Pxl32fc* src2, int src2Step, Pxl32fc* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliSub_32fc_AC4R(const Pxl32fc* src1, int src1Step, const Pxl32fc* src2, int src2Step, Pxl32fc* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliSub_32fc_C1IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliSub_32fc_C3IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliSub_32fc_AC4IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Mul (arith/mul.cpp)
+ *
+ * dst = src1 * src2. In place (I), srcDst is the second source and the destination. AC4: elements 0..2.
+ * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even, and
+ * saturate it; 32f and 32fc compute in single precision.
+ *   16u, scaleFactor >= 33: the result is 0 everywhere; then -8 is returned for a null source before anything else is tested.
+ * Statuses, in this order: C3 and C4 members: -6 width < 1; then all: -8 a pointer is null; -6 width or height < 1;
+ * complex members: -14 a step < 1. The steps of real members are not checked.
+ */
+PxlStatus pxliMul_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_8u_C3RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_8u_C4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_8u_AC4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_8u_C1IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_8u_C3IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_8u_C4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_8u_AC4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_16u_C1RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_16u_C3RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_16u_C4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_16u_AC4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_16u_C1IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_16u_C3IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_16u_C4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_16u_AC4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_16s_C1RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_16s_C3RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_16s_C4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_16s_AC4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_16s_C1IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_16s_C3IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_16s_C4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_16s_AC4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMul_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMul_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMul_32f_AC4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMul_32f_C1IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMul_32f_C3IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMul_32f_C4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMul_32f_AC4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Mul, complex (arith/mul_complex.cpp)
+ *
+ * dst = src1 * src2 of complex elements: with a + bi and c + di the real part is a*c - b*d, the imaginary part a*d + b*c.
+ * The products of integer members are exact; a 16sc imaginary sum of 2^31 counts as 2^31 - 1. Each part is scaled, rounded to
+ * nearest even and saturated by itself; 16sc with scaleFactor < -15 gives each part's saturated sign. AC4: elements 0..2.
+ * Statuses, in this order: C3 and C4 members: -6 width < 1; then all: -8 a pointer is null; -6 width or height < 1;
+ * -14 a step < 1.
+ */
+PxlStatus pxliMul_16sc_C1RSfs(const Pxl16sc* src1, int src1Step, const Pxl16sc* src2, int src2Step, Pxl16sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_16sc_C3RSfs(const Pxl16sc* src1, int src1Step, const Pxl16sc* src2, int src2Step, Pxl16sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_16sc_AC4RSfs(const Pxl16sc* src1, int src1Step, const Pxl16sc* src2, int src2Step, Pxl16sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_16sc_C1IRSfs(const Pxl16sc* src, int srcStep, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_16sc_C3IRSfs(const Pxl16sc* src, int srcStep, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_16sc_AC4IRSfs(const Pxl16sc* src, int srcStep, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_32sc_C1RSfs(const Pxl32sc* src1, int src1Step, const Pxl32sc* src2, int src2Step, Pxl32sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_32sc_C3RSfs(const Pxl32sc* src1, int src1Step, const Pxl32sc* src2, int src2Step, Pxl32sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_32sc_AC4RSfs(const Pxl32sc* src1, int src1Step, const Pxl32sc* src2, int src2Step, Pxl32sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMul_32sc_C1IRSfs(const Pxl32sc* src, int srcStep, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_32sc_C3IRSfs(const Pxl32sc* src, int srcStep, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_32sc_AC4IRSfs(const Pxl32sc* src, int srcStep, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMul_32fc_C1R(const Pxl32fc* src1, int src1Step, const Pxl32fc* src2, int src2Step, Pxl32fc* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliMul_32fc_C3R(const Pxl32fc* src1, int src1Step, const Pxl32fc* src2, int src2Step, Pxl32fc* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliMul_32fc_AC4R(const Pxl32fc* src1, int src1Step, const Pxl32fc* src2, int src2Step, Pxl32fc* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliMul_32fc_C1IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMul_32fc_C3IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMul_32fc_AC4IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Div (arith/div.cpp)
+ *
+ * dst = src2 / src1: the first source is the divisor. In place (I), srcDst is the dividend and the destination. AC4:
+ * elements 0..2.
+ *   8u   src2 * 2^-scaleFactor / src1 + 0.5 in single precision, truncated, a tie to even, saturated
+ *   16s  the same quotient, rounded to nearest even, saturated
+ *   16u  integer division with 16 fractional bits, rounded to nearest; a tie of the truncated fraction goes to even
+ *   32f  src2 / src1 in single precision
+ * A divisor of 0 gives the saturated sign of the dividend (0 for 0); 32f: infinity with the dividend's sign, the NaN 0xFFC00000
+ * for 0 and NaN. The call then returns the warning 6 (PXL_W_DIV_BY_ZERO) when the whole region is done.
+ * Statuses, in this order: 16u C3 and C4: -6 width < 1; then all: -8 a pointer is null; -6 width or height < 1; all but 16u: -14 a
+ * step < 1; 6.
+ */
+PxlStatus pxliDiv_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_8u_C3RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_8u_C4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_8u_AC4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_8u_C1IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_8u_C3IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_8u_C4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_8u_AC4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_16u_C1RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_16u_C3RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_16u_C4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_16u_AC4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_16u_C1IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_16u_C3IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_16u_C4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_16u_AC4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_16s_C1RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_16s_C3RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_16s_C4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_16s_AC4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_16s_C1IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_16s_C3IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_16s_C4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_16s_AC4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_32f_C1R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliDiv_32f_C3R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliDiv_32f_C4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliDiv_32f_AC4R(const float* src1, int src1Step, const float* src2, int src2Step, float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliDiv_32f_C1IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliDiv_32f_C3IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliDiv_32f_C4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliDiv_32f_AC4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Div, complex (arith/div_complex.cpp)
+ *
+ * dst = src2 / src1 of complex elements: with divisor a + bi, dividend c + di and m = a*a + b*b the real part is
+ * (a*c + b*d) * (f/m), the imaginary part (a*d - b*c) * (f/m).
+ * 32fc: single precision, f = 1. 16sc and 32sc: double precision, f = 2^-scaleFactor, each part rounded to nearest even and
+ * saturated. A zero divisor gives 0 + 0i (32fc: both parts the NaN 0xFFC00000), and the call returns the warning 6.
+ * AC4: elements 0..2.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -14 a step < 1; 6.
+ */
+PxlStatus pxliDiv_16sc_C1RSfs(const Pxl16sc* src1, int src1Step, const Pxl16sc* src2, int src2Step, Pxl16sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_16sc_C3RSfs(const Pxl16sc* src1, int src1Step, const Pxl16sc* src2, int src2Step, Pxl16sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_16sc_AC4RSfs(const Pxl16sc* src1, int src1Step, const Pxl16sc* src2, int src2Step, Pxl16sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_16sc_C1IRSfs(const Pxl16sc* src, int srcStep, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_16sc_C3IRSfs(const Pxl16sc* src, int srcStep, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_16sc_AC4IRSfs(const Pxl16sc* src, int srcStep, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_32sc_C1RSfs(const Pxl32sc* src1, int src1Step, const Pxl32sc* src2, int src2Step, Pxl32sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_32sc_C3RSfs(const Pxl32sc* src1, int src1Step, const Pxl32sc* src2, int src2Step, Pxl32sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_32sc_AC4RSfs(const Pxl32sc* src1, int src1Step, const Pxl32sc* src2, int src2Step, Pxl32sc* dst,
+    int dstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDiv_32sc_C1IRSfs(const Pxl32sc* src, int srcStep, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_32sc_C3IRSfs(const Pxl32sc* src, int srcStep, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_32sc_AC4IRSfs(const Pxl32sc* src, int srcStep, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDiv_32fc_C1R(const Pxl32fc* src1, int src1Step, const Pxl32fc* src2, int src2Step, Pxl32fc* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliDiv_32fc_C3R(const Pxl32fc* src1, int src1Step, const Pxl32fc* src2, int src2Step, Pxl32fc* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliDiv_32fc_AC4R(const Pxl32fc* src1, int src1Step, const Pxl32fc* src2, int src2Step, Pxl32fc* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliDiv_32fc_C1IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliDiv_32fc_C3IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliDiv_32fc_AC4IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Div_Round (arith/div_round.cpp)
+ *
+ * dst = src2 * 2^-scaleFactor / src1 in double precision, rounded by roundMode: 0 toward zero, 1 to nearest with ties to even,
+ * 2 to nearest with ties away from zero; saturated. A divisor of 0 gives the saturated sign of the dividend (0 for 0) and the
+ * warning 6. AC4: elements 0..2.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -14 a step < 1; -213 roundMode not 0, 1 or 2; 6.
+ */
+PxlStatus pxliDiv_Round_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_8u_C3RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_8u_C4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_8u_AC4RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_8u_C1IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_8u_C3IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_8u_C4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_8u_AC4IRSfs(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16u_C1RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step,
+    uint16_t* dst, int dstStep, ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16u_C3RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step,
+    uint16_t* dst, int dstStep, ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16u_C4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step,
+    uint16_t* dst, int dstStep, ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16u_AC4RSfs(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step,
+    uint16_t* dst, int dstStep, ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16u_C1IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep,
+    ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16u_C3IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep,
+    ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16u_C4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep,
+    ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16u_AC4IRSfs(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep,
+    ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16s_C1RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16s_C3RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16s_C4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16s_AC4RSfs(const int16_t* src1, int src1Step, const int16_t* src2, int src2Step, int16_t* dst,
+    int dstStep, ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16s_C1IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16s_C3IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16s_C4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    PxlRoundMode roundMode, int scaleFactor);
+PxlStatus pxliDiv_Round_16s_AC4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep,
+    ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * AddC (arith/add_sub_c.cpp)
+ *
+ * dst = src + value, with one value per channel (C3 and AC4: an array of 3, C4: of 4). AC4: elements 0..2.
+ * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even, and
+ * saturate it; 32f and 32fc compute in single precision.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1. Steps are not checked.
+ */
+PxlStatus pxliAddC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_8u_C3RSfs(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_8u_C4RSfs(const uint8_t* src, int srcStep, const uint8_t value[4], uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_8u_AC4RSfs(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_8u_C1IRSfs(uint8_t value, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_8u_C3IRSfs(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAddC_8u_C4IRSfs(const uint8_t value[4], uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAddC_8u_AC4IRSfs(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAddC_16u_C1RSfs(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_16u_C3RSfs(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_16u_C4RSfs(const uint16_t* src, int srcStep, const uint16_t value[4], uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_16u_AC4RSfs(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_16u_C1IRSfs(uint16_t value, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_16u_C3IRSfs(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAddC_16u_C4IRSfs(const uint16_t value[4], uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAddC_16u_AC4IRSfs(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAddC_16s_C1RSfs(const int16_t* src, int srcStep, int16_t value, int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_16s_C3RSfs(const int16_t* src, int srcStep, const int16_t value[3], int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_16s_C4RSfs(const int16_t* src, int srcStep, const int16_t value[4], int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_16s_AC4RSfs(const int16_t* src, int srcStep, const int16_t value[3], int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_16s_C1IRSfs(int16_t value, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_16s_C3IRSfs(const int16_t value[3], int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAddC_16s_C4IRSfs(const int16_t value[4], int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAddC_16s_AC4IRSfs(const int16_t value[3], int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAddC_32f_C1R(const float* src, int srcStep, float value, float* dst, int dstStep, ImageSize roiSize);
+PxlStatus pxliAddC_32f_C3R(const float* src, int srcStep, const float value[3], float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAddC_32f_C4R(const float* src, int srcStep, const float value[4], float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAddC_32f_AC4R(const float* src, int srcStep, const float value[3], float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAddC_32f_C1IR(float value, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAddC_32f_C3IR(const float value[3], float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAddC_32f_C4IR(const float value[4], float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAddC_32f_AC4IR(const float value[3], float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAddC_16sc_C1RSfs(const Pxl16sc* src, int srcStep, Pxl16sc value, Pxl16sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_16sc_C3RSfs(const Pxl16sc* src, int srcStep, const Pxl16sc value[3], Pxl16sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_16sc_AC4RSfs(const Pxl16sc* src, int srcStep, const Pxl16sc value[3], Pxl16sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_16sc_C1IRSfs(Pxl16sc value, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_16sc_C3IRSfs(const Pxl16sc value[3], Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAddC_16sc_AC4IRSfs(const Pxl16sc value[3], Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAddC_32sc_C1RSfs(const Pxl32sc* src, int srcStep, Pxl32sc value, Pxl32sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_32sc_C3RSfs(const Pxl32sc* src, int srcStep, const Pxl32sc value[3], Pxl32sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_32sc_AC4RSfs(const Pxl32sc* src, int srcStep, const Pxl32sc value[3], Pxl32sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_32sc_C1IRSfs(Pxl32sc value, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliAddC_32sc_C3IRSfs(const Pxl32sc value[3], Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAddC_32sc_AC4IRSfs(const Pxl32sc value[3], Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliAddC_32fc_C1R(const Pxl32fc* src, int srcStep, Pxl32fc value, Pxl32fc* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAddC_32fc_C3R(const Pxl32fc* src, int srcStep, const Pxl32fc value[3], Pxl32fc* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAddC_32fc_AC4R(const Pxl32fc* src, int srcStep, const Pxl32fc value[3], Pxl32fc* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAddC_32fc_C1IR(Pxl32fc value, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAddC_32fc_C3IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAddC_32fc_AC4IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * SubC (arith/add_sub_c.cpp)
+ *
+ * dst = src - value, with one value per channel (C3 and AC4: an array of 3, C4: of 4). AC4: elements 0..2.
+ * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even, and
+ * saturate it; 32f and 32fc compute in single precision.
+ * 8u and 16u clamp a negative difference to 0 before scaling.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1. Steps are not checked.
+ */
+PxlStatus pxliSubC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_8u_C3RSfs(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_8u_C4RSfs(const uint8_t* src, int srcStep, const uint8_t value[4], uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_8u_AC4RSfs(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_8u_C1IRSfs(uint8_t value, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_8u_C3IRSfs(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSubC_8u_C4IRSfs(const uint8_t value[4], uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSubC_8u_AC4IRSfs(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSubC_16u_C1RSfs(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_16u_C3RSfs(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_16u_C4RSfs(const uint16_t* src, int srcStep, const uint16_t value[4], uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_16u_AC4RSfs(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_16u_C1IRSfs(uint16_t value, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_16u_C3IRSfs(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSubC_16u_C4IRSfs(const uint16_t value[4], uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSubC_16u_AC4IRSfs(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSubC_16s_C1RSfs(const int16_t* src, int srcStep, int16_t value, int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_16s_C3RSfs(const int16_t* src, int srcStep, const int16_t value[3], int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_16s_C4RSfs(const int16_t* src, int srcStep, const int16_t value[4], int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_16s_AC4RSfs(const int16_t* src, int srcStep, const int16_t value[3], int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_16s_C1IRSfs(int16_t value, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_16s_C3IRSfs(const int16_t value[3], int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSubC_16s_C4IRSfs(const int16_t value[4], int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSubC_16s_AC4IRSfs(const int16_t value[3], int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSubC_32f_C1R(const float* src, int srcStep, float value, float* dst, int dstStep, ImageSize roiSize);
+PxlStatus pxliSubC_32f_C3R(const float* src, int srcStep, const float value[3], float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliSubC_32f_C4R(const float* src, int srcStep, const float value[4], float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliSubC_32f_AC4R(const float* src, int srcStep, const float value[3], float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliSubC_32f_C1IR(float value, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliSubC_32f_C3IR(const float value[3], float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliSubC_32f_C4IR(const float value[4], float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliSubC_32f_AC4IR(const float value[3], float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliSubC_16sc_C1RSfs(const Pxl16sc* src, int srcStep, Pxl16sc value, Pxl16sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_16sc_C3RSfs(const Pxl16sc* src, int srcStep, const Pxl16sc value[3], Pxl16sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_16sc_AC4RSfs(const Pxl16sc* src, int srcStep, const Pxl16sc value[3], Pxl16sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_16sc_C1IRSfs(Pxl16sc value, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_16sc_C3IRSfs(const Pxl16sc value[3], Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSubC_16sc_AC4IRSfs(const Pxl16sc value[3], Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSubC_32sc_C1RSfs(const Pxl32sc* src, int srcStep, Pxl32sc value, Pxl32sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_32sc_C3RSfs(const Pxl32sc* src, int srcStep, const Pxl32sc value[3], Pxl32sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_32sc_AC4RSfs(const Pxl32sc* src, int srcStep, const Pxl32sc value[3], Pxl32sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_32sc_C1IRSfs(Pxl32sc value, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliSubC_32sc_C3IRSfs(const Pxl32sc value[3], Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSubC_32sc_AC4IRSfs(const Pxl32sc value[3], Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliSubC_32fc_C1R(const Pxl32fc* src, int srcStep, Pxl32fc value, Pxl32fc* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliSubC_32fc_C3R(const Pxl32fc* src, int srcStep, const Pxl32fc value[3], Pxl32fc* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliSubC_32fc_AC4R(const Pxl32fc* src, int srcStep, const Pxl32fc value[3], Pxl32fc* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliSubC_32fc_C1IR(Pxl32fc value, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliSubC_32fc_C3IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliSubC_32fc_AC4IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * MulC (arith/mul_c.cpp)
+ *
+ * dst = src * value, with one value per channel (C3 and AC4: an array of 3, C4: of 4). AC4: elements 0..2.
+ * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even, and
+ * saturate it; 32f and 32fc compute in single precision.
+ * Complex members give the complex product.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1. Steps are not checked.
+ */
+PxlStatus pxliMulC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_8u_C3RSfs(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_8u_C4RSfs(const uint8_t* src, int srcStep, const uint8_t value[4], uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_8u_AC4RSfs(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_8u_C1IRSfs(uint8_t value, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_8u_C3IRSfs(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMulC_8u_C4IRSfs(const uint8_t value[4], uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMulC_8u_AC4IRSfs(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMulC_16u_C1RSfs(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_16u_C3RSfs(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_16u_C4RSfs(const uint16_t* src, int srcStep, const uint16_t value[4], uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_16u_AC4RSfs(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_16u_C1IRSfs(uint16_t value, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_16u_C3IRSfs(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMulC_16u_C4IRSfs(const uint16_t value[4], uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMulC_16u_AC4IRSfs(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMulC_16s_C1RSfs(const int16_t* src, int srcStep, int16_t value, int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_16s_C3RSfs(const int16_t* src, int srcStep, const int16_t value[3], int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_16s_C4RSfs(const int16_t* src, int srcStep, const int16_t value[4], int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_16s_AC4RSfs(const int16_t* src, int srcStep, const int16_t value[3], int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_16s_C1IRSfs(int16_t value, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_16s_C3IRSfs(const int16_t value[3], int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMulC_16s_C4IRSfs(const int16_t value[4], int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMulC_16s_AC4IRSfs(const int16_t value[3], int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMulC_32f_C1R(const float* src, int srcStep, float value, float* dst, int dstStep, ImageSize roiSize);
+PxlStatus pxliMulC_32f_C3R(const float* src, int srcStep, const float value[3], float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMulC_32f_C4R(const float* src, int srcStep, const float value[4], float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMulC_32f_AC4R(const float* src, int srcStep, const float value[3], float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMulC_32f_C1IR(float value, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulC_32f_C3IR(const float value[3], float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulC_32f_C4IR(const float value[4], float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulC_32f_AC4IR(const float value[3], float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulC_16sc_C1RSfs(const Pxl16sc* src, int srcStep, Pxl16sc value, Pxl16sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_16sc_C3RSfs(const Pxl16sc* src, int srcStep, const Pxl16sc value[3], Pxl16sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_16sc_AC4RSfs(const Pxl16sc* src, int srcStep, const Pxl16sc value[3], Pxl16sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_16sc_C1IRSfs(Pxl16sc value, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_16sc_C3IRSfs(const Pxl16sc value[3], Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMulC_16sc_AC4IRSfs(const Pxl16sc value[3], Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMulC_32sc_C1RSfs(const Pxl32sc* src, int srcStep, Pxl32sc value, Pxl32sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_32sc_C3RSfs(const Pxl32sc* src, int srcStep, const Pxl32sc value[3], Pxl32sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_32sc_AC4RSfs(const Pxl32sc* src, int srcStep, const Pxl32sc value[3], Pxl32sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_32sc_C1IRSfs(Pxl32sc value, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliMulC_32sc_C3IRSfs(const Pxl32sc value[3], Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMulC_32sc_AC4IRSfs(const Pxl32sc value[3], Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliMulC_32fc_C1R(const Pxl32fc* src, int srcStep, Pxl32fc value, Pxl32fc* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMulC_32fc_C3R(const Pxl32fc* src, int srcStep, const Pxl32fc value[3], Pxl32fc* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMulC_32fc_AC4R(const Pxl32fc* src, int srcStep, const Pxl32fc value[3], Pxl32fc* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMulC_32fc_C1IR(Pxl32fc value, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulC_32fc_C3IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulC_32fc_AC4IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * DivC (arith/div_c.cpp)
+ *
+ * dst = src / value, with one value per channel, rounded as pxliDiv rounds. AC4: elements 0..2.
+ * 32f multiplies by the reciprocal of the value, which is formed once in single precision.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -14 a step < 1; -10 a value is 0 (complex: re*re + im*im
+ * is 0).
+ */
+PxlStatus pxliDivC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_8u_C3RSfs(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_8u_C4RSfs(const uint8_t* src, int srcStep, const uint8_t value[4], uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_8u_AC4RSfs(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_8u_C1IRSfs(uint8_t value, uint8_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_8u_C3IRSfs(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDivC_8u_C4IRSfs(const uint8_t value[4], uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDivC_8u_AC4IRSfs(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDivC_16u_C1RSfs(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_16u_C3RSfs(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_16u_C4RSfs(const uint16_t* src, int srcStep, const uint16_t value[4], uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_16u_AC4RSfs(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_16u_C1IRSfs(uint16_t value, uint16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_16u_C3IRSfs(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDivC_16u_C4IRSfs(const uint16_t value[4], uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDivC_16u_AC4IRSfs(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDivC_16s_C1RSfs(const int16_t* src, int srcStep, int16_t value, int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_16s_C3RSfs(const int16_t* src, int srcStep, const int16_t value[3], int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_16s_C4RSfs(const int16_t* src, int srcStep, const int16_t value[4], int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_16s_AC4RSfs(const int16_t* src, int srcStep, const int16_t value[3], int16_t* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_16s_C1IRSfs(int16_t value, int16_t* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_16s_C3IRSfs(const int16_t value[3], int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDivC_16s_C4IRSfs(const int16_t value[4], int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDivC_16s_AC4IRSfs(const int16_t value[3], int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDivC_32f_C1R(const float* src, int srcStep, float value, float* dst, int dstStep, ImageSize roiSize);
+PxlStatus pxliDivC_32f_C3R(const float* src, int srcStep, const float value[3], float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliDivC_32f_C4R(const float* src, int srcStep, const float value[4], float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliDivC_32f_AC4R(const float* src, int srcStep, const float value[3], float* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliDivC_32f_C1IR(float value, float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliDivC_32f_C3IR(const float value[3], float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliDivC_32f_C4IR(const float value[4], float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliDivC_32f_AC4IR(const float value[3], float* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliDivC_16sc_C1RSfs(const Pxl16sc* src, int srcStep, Pxl16sc value, Pxl16sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_16sc_C3RSfs(const Pxl16sc* src, int srcStep, const Pxl16sc value[3], Pxl16sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_16sc_AC4RSfs(const Pxl16sc* src, int srcStep, const Pxl16sc value[3], Pxl16sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_16sc_C1IRSfs(Pxl16sc value, Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_16sc_C3IRSfs(const Pxl16sc value[3], Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDivC_16sc_AC4IRSfs(const Pxl16sc value[3], Pxl16sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDivC_32sc_C1RSfs(const Pxl32sc* src, int srcStep, Pxl32sc value, Pxl32sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_32sc_C3RSfs(const Pxl32sc* src, int srcStep, const Pxl32sc value[3], Pxl32sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_32sc_AC4RSfs(const Pxl32sc* src, int srcStep, const Pxl32sc value[3], Pxl32sc* dst, int dstStep,
+    ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_32sc_C1IRSfs(Pxl32sc value, Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize, int scaleFactor);
+PxlStatus pxliDivC_32sc_C3IRSfs(const Pxl32sc value[3], Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDivC_32sc_AC4IRSfs(const Pxl32sc value[3], Pxl32sc* srcDst, int srcDstStep, ImageSize roiSize,
+    int scaleFactor);
+PxlStatus pxliDivC_32fc_C1R(const Pxl32fc* src, int srcStep, Pxl32fc value, Pxl32fc* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliDivC_32fc_C3R(const Pxl32fc* src, int srcStep, const Pxl32fc value[3], Pxl32fc* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliDivC_32fc_AC4R(const Pxl32fc* src, int srcStep, const Pxl32fc value[3], Pxl32fc* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliDivC_32fc_C1IR(Pxl32fc value, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliDivC_32fc_C3IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliDivC_32fc_AC4IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * MulScale (arith/mul_scale.cpp)
+ *
+ * The normalised product of two full-range values: with p = src1 * src2, 8u (p + (p >> 8) + 1) >> 8, 16u
+ * (p + (p >> 16) + 1) >> 16. 255 (65535) times x is x. AC4: elements 0..2.
+ * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1.
+ */
+PxlStatus pxliMulScale_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_8u_AC4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_8u_C3IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_8u_C4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_8u_AC4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_16u_AC4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_16u_C1IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_16u_C3IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_16u_C4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulScale_16u_AC4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * MulCScale (arith/mul_scale.cpp)
+ *
+ * As pxliMulScale, with one value per channel in the place of the second source.
+ * Statuses: those of pxliMulScale.
+ */
+PxlStatus pxliMulCScale_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMulCScale_8u_C3R(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMulCScale_8u_C4R(const uint8_t* src, int srcStep, const uint8_t value[4], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMulCScale_8u_AC4R(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMulCScale_8u_C1IR(uint8_t value, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulCScale_8u_C3IR(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulCScale_8u_C4IR(const uint8_t value[4], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulCScale_8u_AC4IR(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulCScale_16u_C1R(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMulCScale_16u_C3R(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMulCScale_16u_C4R(const uint16_t* src, int srcStep, const uint16_t value[4], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMulCScale_16u_AC4R(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliMulCScale_16u_C1IR(uint16_t value, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulCScale_16u_C3IR(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulCScale_16u_C4IR(const uint16_t value[4], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliMulCScale_16u_AC4IR(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * And (arith/logical.cpp)
+ *
+ * dst = src1 & src2, bit by bit. AC4: elements 0..2.
+ * Statuses, in this order: C3 and C4 members: -6 width < 1; then all: -8 a pointer is null; -14 a step < 1; -6 width or height
+ * < 1.
+ */
+PxlStatus pxliAnd_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAnd_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAnd_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAnd_8u_AC4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAnd_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAnd_8u_C3IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAnd_8u_C4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAnd_8u_AC4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAnd_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAnd_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAnd_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAnd_16u_AC4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAnd_16u_C1IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAnd_16u_C3IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAnd_16u_C4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAnd_16u_AC4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAnd_32s_C1R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAnd_32s_C3R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAnd_32s_C4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAnd_32s_AC4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliAnd_32s_C1IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAnd_32s_C3IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAnd_32s_C4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAnd_32s_AC4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * AndC (arith/logical.cpp)
+ *
+ * dst = src & value, bit by bit, with one value per channel. AC4: elements 0..2.
+ * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1.
+ */
+PxlStatus pxliAndC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
+PxlStatus pxliAndC_8u_C3R(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAndC_8u_C4R(const uint8_t* src, int srcStep, const uint8_t value[4], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAndC_8u_AC4R(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAndC_8u_C1IR(uint8_t value, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAndC_8u_C3IR(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAndC_8u_C4IR(const uint8_t value[4], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAndC_8u_AC4IR(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAndC_16u_C1R(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAndC_16u_C3R(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAndC_16u_C4R(const uint16_t* src, int srcStep, const uint16_t value[4], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAndC_16u_AC4R(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAndC_16u_C1IR(uint16_t value, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAndC_16u_C3IR(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAndC_16u_C4IR(const uint16_t value[4], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAndC_16u_AC4IR(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAndC_32s_C1R(const int32_t* src, int srcStep, int32_t value, int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAndC_32s_C3R(const int32_t* src, int srcStep, const int32_t value[3], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAndC_32s_C4R(const int32_t* src, int srcStep, const int32_t value[4], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAndC_32s_AC4R(const int32_t* src, int srcStep, const int32_t value[3], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliAndC_32s_C1IR(int32_t value, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAndC_32s_C3IR(const int32_t value[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAndC_32s_C4IR(const int32_t value[4], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliAndC_32s_AC4IR(const int32_t value[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Or (arith/logical.cpp)
+ *
+ * dst = src1 | src2, bit by bit. AC4: elements 0..2.
+ * Statuses, in this order: C3 and C4 members: -6 width < 1; then all: -8 a pointer is null; -14 a step < 1; -6 width or height
+ * < 1.
+ */
+PxlStatus pxliOr_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliOr_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliOr_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliOr_8u_AC4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliOr_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOr_8u_C3IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOr_8u_C4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOr_8u_AC4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOr_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliOr_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliOr_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliOr_16u_AC4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliOr_16u_C1IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOr_16u_C3IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOr_16u_C4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOr_16u_AC4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOr_32s_C1R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliOr_32s_C3R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliOr_32s_C4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliOr_32s_AC4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliOr_32s_C1IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOr_32s_C3IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOr_32s_C4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOr_32s_AC4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * OrC (arith/logical.cpp)
+ *
+ * dst = src | value, bit by bit, with one value per channel. AC4: elements 0..2.
+ * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1.
+ */
+PxlStatus pxliOrC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
+PxlStatus pxliOrC_8u_C3R(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliOrC_8u_C4R(const uint8_t* src, int srcStep, const uint8_t value[4], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliOrC_8u_AC4R(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliOrC_8u_C1IR(uint8_t value, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOrC_8u_C3IR(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOrC_8u_C4IR(const uint8_t value[4], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOrC_8u_AC4IR(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOrC_16u_C1R(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliOrC_16u_C3R(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliOrC_16u_C4R(const uint16_t* src, int srcStep, const uint16_t value[4], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliOrC_16u_AC4R(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliOrC_16u_C1IR(uint16_t value, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOrC_16u_C3IR(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOrC_16u_C4IR(const uint16_t value[4], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOrC_16u_AC4IR(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOrC_32s_C1R(const int32_t* src, int srcStep, int32_t value, int32_t* dst, int dstStep, ImageSize roiSize);
+PxlStatus pxliOrC_32s_C3R(const int32_t* src, int srcStep, const int32_t value[3], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliOrC_32s_C4R(const int32_t* src, int srcStep, const int32_t value[4], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliOrC_32s_AC4R(const int32_t* src, int srcStep, const int32_t value[3], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliOrC_32s_C1IR(int32_t value, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOrC_32s_C3IR(const int32_t value[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOrC_32s_C4IR(const int32_t value[4], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliOrC_32s_AC4IR(const int32_t value[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Xor (arith/logical.cpp)
+ *
+ * dst = src1 ^ src2, bit by bit. AC4: elements 0..2.
+ * Statuses, in this order: C3 and C4 members: -6 width < 1; then all: -8 a pointer is null; -14 a step < 1; -6 width or height
+ * < 1.
+ */
+PxlStatus pxliXor_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliXor_8u_C3R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliXor_8u_C4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliXor_8u_AC4R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliXor_8u_C1IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXor_8u_C3IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXor_8u_C4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXor_8u_AC4IR(const uint8_t* src, int srcStep, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXor_16u_C1R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliXor_16u_C3R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliXor_16u_C4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliXor_16u_AC4R(const uint16_t* src1, int src1Step, const uint16_t* src2, int src2Step, uint16_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliXor_16u_C1IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXor_16u_C3IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXor_16u_C4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXor_16u_AC4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXor_32s_C1R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliXor_32s_C3R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliXor_32s_C4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliXor_32s_AC4R(const int32_t* src1, int src1Step, const int32_t* src2, int src2Step, int32_t* dst,
+    int dstStep, ImageSize roiSize);
+PxlStatus pxliXor_32s_C1IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXor_32s_C3IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXor_32s_C4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXor_32s_AC4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * XorC (arith/logical.cpp)
+ *
+ * dst = src ^ value, bit by bit, with one value per channel. AC4: elements 0..2.
+ * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1.
+ */
+PxlStatus pxliXorC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
+PxlStatus pxliXorC_8u_C3R(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliXorC_8u_C4R(const uint8_t* src, int srcStep, const uint8_t value[4], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliXorC_8u_AC4R(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliXorC_8u_C1IR(uint8_t value, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXorC_8u_C3IR(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXorC_8u_C4IR(const uint8_t value[4], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXorC_8u_AC4IR(const uint8_t value[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXorC_16u_C1R(const uint16_t* src, int srcStep, uint16_t value, uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliXorC_16u_C3R(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliXorC_16u_C4R(const uint16_t* src, int srcStep, const uint16_t value[4], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliXorC_16u_AC4R(const uint16_t* src, int srcStep, const uint16_t value[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliXorC_16u_C1IR(uint16_t value, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXorC_16u_C3IR(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXorC_16u_C4IR(const uint16_t value[4], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXorC_16u_AC4IR(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXorC_32s_C1R(const int32_t* src, int srcStep, int32_t value, int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliXorC_32s_C3R(const int32_t* src, int srcStep, const int32_t value[3], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliXorC_32s_C4R(const int32_t* src, int srcStep, const int32_t value[4], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliXorC_32s_AC4R(const int32_t* src, int srcStep, const int32_t value[3], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliXorC_32s_C1IR(int32_t value, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXorC_32s_C3IR(const int32_t value[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXorC_32s_C4IR(const int32_t value[4], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliXorC_32s_AC4IR(const int32_t value[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Not (arith/logical.cpp)
+ *
+ * dst = ~src. AC4: elements 0..2.
+ * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1.
+ */
+PxlStatus pxliNot_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+PxlStatus pxliNot_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+PxlStatus pxliNot_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+PxlStatus pxliNot_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
+PxlStatus pxliNot_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliNot_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliNot_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliNot_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * LShiftC (arith/shift.cpp)
+ *
+ * dst = src << count, with one count per channel; bits that leave the element are lost, counts from the element's width up give
+ * 0. AC4: elements 0..2.
+ * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1.
+ */
+PxlStatus pxliLShiftC_8u_C1R(const uint8_t* src, int srcStep, uint32_t count, uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliLShiftC_8u_C3R(const uint8_t* src, int srcStep, const uint32_t count[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliLShiftC_8u_C4R(const uint8_t* src, int srcStep, const uint32_t count[4], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliLShiftC_8u_AC4R(const uint8_t* src, int srcStep, const uint32_t count[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliLShiftC_8u_C1IR(uint32_t count, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliLShiftC_8u_C3IR(const uint32_t count[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliLShiftC_8u_C4IR(const uint32_t count[4], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliLShiftC_8u_AC4IR(const uint32_t count[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliLShiftC_16u_C1R(const uint16_t* src, int srcStep, uint32_t count, uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliLShiftC_16u_C3R(const uint16_t* src, int srcStep, const uint32_t count[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliLShiftC_16u_C4R(const uint16_t* src, int srcStep, const uint32_t count[4], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliLShiftC_16u_AC4R(const uint16_t* src, int srcStep, const uint32_t count[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliLShiftC_16u_C1IR(uint32_t count, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliLShiftC_16u_C3IR(const uint32_t count[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliLShiftC_16u_C4IR(const uint32_t count[4], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliLShiftC_16u_AC4IR(const uint32_t count[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliLShiftC_32s_C1R(const int32_t* src, int srcStep, uint32_t count, int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliLShiftC_32s_C3R(const int32_t* src, int srcStep, const uint32_t count[3], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliLShiftC_32s_C4R(const int32_t* src, int srcStep, const uint32_t count[4], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliLShiftC_32s_AC4R(const int32_t* src, int srcStep, const uint32_t count[3], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliLShiftC_32s_C1IR(uint32_t count, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliLShiftC_32s_C3IR(const uint32_t count[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliLShiftC_32s_C4IR(const uint32_t count[4], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliLShiftC_32s_AC4IR(const uint32_t count[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * RShiftC (arith/shift.cpp)
+ *
+ * dst = src >> count, with one count per channel: zeros come in for unsigned types, the sign for signed ones, also for counts
+ * from the element's width up. AC4: elements 0..2.
+ * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1.
+ */
+PxlStatus pxliRShiftC_8u_C1R(const uint8_t* src, int srcStep, uint32_t count, uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_8u_C3R(const uint8_t* src, int srcStep, const uint32_t count[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_8u_C4R(const uint8_t* src, int srcStep, const uint32_t count[4], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_8u_AC4R(const uint8_t* src, int srcStep, const uint32_t count[3], uint8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_8u_C1IR(uint32_t count, uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_8u_C3IR(const uint32_t count[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_8u_C4IR(const uint32_t count[4], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_8u_AC4IR(const uint32_t count[3], uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_8s_C1R(const int8_t* src, int srcStep, uint32_t count, int8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_8s_C3R(const int8_t* src, int srcStep, const uint32_t count[3], int8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_8s_C4R(const int8_t* src, int srcStep, const uint32_t count[4], int8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_8s_AC4R(const int8_t* src, int srcStep, const uint32_t count[3], int8_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_8s_C1IR(uint32_t count, int8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_8s_C3IR(const uint32_t count[3], int8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_8s_C4IR(const uint32_t count[4], int8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_8s_AC4IR(const uint32_t count[3], int8_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_16u_C1R(const uint16_t* src, int srcStep, uint32_t count, uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_16u_C3R(const uint16_t* src, int srcStep, const uint32_t count[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_16u_C4R(const uint16_t* src, int srcStep, const uint32_t count[4], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_16u_AC4R(const uint16_t* src, int srcStep, const uint32_t count[3], uint16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_16u_C1IR(uint32_t count, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_16u_C3IR(const uint32_t count[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_16u_C4IR(const uint32_t count[4], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_16u_AC4IR(const uint32_t count[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_16s_C1R(const int16_t* src, int srcStep, uint32_t count, int16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_16s_C3R(const int16_t* src, int srcStep, const uint32_t count[3], int16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_16s_C4R(const int16_t* src, int srcStep, const uint32_t count[4], int16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_16s_AC4R(const int16_t* src, int srcStep, const uint32_t count[3], int16_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_16s_C1IR(uint32_t count, int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_16s_C3IR(const uint32_t count[3], int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_16s_C4IR(const uint32_t count[4], int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_16s_AC4IR(const uint32_t count[3], int16_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_32s_C1R(const int32_t* src, int srcStep, uint32_t count, int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_32s_C3R(const int32_t* src, int srcStep, const uint32_t count[3], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_32s_C4R(const int32_t* src, int srcStep, const uint32_t count[4], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_32s_AC4R(const int32_t* src, int srcStep, const uint32_t count[3], int32_t* dst, int dstStep,
+    ImageSize roiSize);
+PxlStatus pxliRShiftC_32s_C1IR(uint32_t count, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_32s_C3IR(const uint32_t count[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_32s_C4IR(const uint32_t count[4], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+PxlStatus pxliRShiftC_32s_AC4IR(const uint32_t count[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+
 #include "pxl_linkage.h"
 
 #endif

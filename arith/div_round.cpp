@@ -1,0 +1,87 @@
+// Quotients of two images with a rounding mode: dst = src2 * 2^-scaleFactor / src1, the first source being the divisor, rounded
+// toward zero, to nearest with ties to even, or to nearest with ties away from zero; saturated.
+//
+// The results are those of double precision, but 8u, and 16 bits with scaleFactor >= 0, come from single precision: there a
+// quotient is at least 2^-18 of it away from every integer and tie that it is not, so 2^-24 of it does not matter. (The quotient
+// y / (x * 2^n) is 1 / (2y) of it away, y * 2^n / x at least 1 / (2x), with a quotient up to 256 and x up to 255 for 8u.)
+#include "arith/quotients.h"
+
+namespace pxl::PXL_TARGET {
+namespace {
+
+template <class T>
+PXL_INLINE Vec<uint32_t> roundTo(std::integral_constant<int, PXL_ROUND_ZERO>, Vec<float> q) {
+    return BitCast<uint32_t>(TruncateToInt(q));
+}
+template <class T>
+PXL_INLINE Vec<uint32_t> roundTo(std::integral_constant<int, PXL_ROUND_NEAR_EVEN>, Vec<float> q) {
+    return BitCast<uint32_t>(NearestInt(q));
+}
+template <class T>
+PXL_INLINE Vec<uint32_t> roundTo(std::integral_constant<int, PXL_ROUND_HALF_AWAY>, Vec<float> q) {
+    const Vec<float> sign = q & Set<float>(-0.0f);
+    return BitCast<uint32_t>(TruncateToInt(q + (Set<float>(0.5f) | sign)));
+}
+
+// Integers in the lower bits of doubles, negative ones as their complement.
+PXL_INLINE Vec<uint64_t> lowerBits(Vec<double> integers) {
+    return BitCast<uint64_t>(integers + Set<double>(1.5 * unitsAtEnd));
+}
+
+// The largest integers not above v, for 0 <= v < 2^51.
+PXL_INLINE Vec<double> Floor(Vec<double> v) {
+    const Vec<double> nearest = RoundToGrid(v, unitsAtEnd);
+    return nearest - (BitCast<double>(nearest > v) & Set<double>(1));
+}
+
+template <class T>
+PXL_INLINE Vec<uint64_t> roundTo(std::integral_constant<int, PXL_ROUND_NEAR_EVEN>, Vec<double> q) {
+    return lowerBits(q);
+}
+template <class T, int Mode>
+PXL_INLINE Vec<uint64_t> roundTo(std::integral_constant<int, Mode>, Vec<double> q) {
+    const Vec<double> half = Set<double>(Mode == PXL_ROUND_HALF_AWAY ? 0.5 : 0);
+    if constexpr (std::is_unsigned_v<T>) return lowerBits(Floor(q + half));
+    const Vec<double> sign = q & Set<double>(-0.0);
+    return lowerBits(Floor((q ^ sign) + half) | sign);
+}
+
+template <class T, int Mode>
+struct RoundBy {
+    template <class Real>
+    PXL_INLINE auto operator()(Vec<Real> q) const {
+        constexpr int smallest = std::is_signed_v<T> ? -32768 : 0;
+        constexpr int largest = sizeof(T) == 1 ? 255 : std::is_signed_v<T> ? 32767 : 65535;
+        Vec<Real> limited = AtMost(largest, q);
+        if constexpr (smallest < 0) limited = AtLeast(smallest, limited);
+        return roundTo<T>(std::integral_constant<int, Mode>{}, limited);
+    }
+};
+
+// From 18 up all quotients come to 0, from -33 down all but 0 saturate.
+template <class T, int Mode>
+bool divideRounded(const Region& region, int scaleFactor) {
+    using Round = RoundBy<T, Mode>;
+    if constexpr (sizeof(T) > 1)
+        if (scaleFactor < 0)
+            return divideImages<T>(region, RealQuotient<T, double, Round>{factorOf<double>(scaleFactor, -33, 0), {}});
+    return divideImages<T>(region, RealQuotient<T, float, Round>{factorOf<float>(scaleFactor, -33, 18), {}});
+}
+
+template <class T, int Elements, int Channels>
+PxlStatus DivRound(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi,
+                   PxlRoundMode roundMode, int scaleFactor) {
+    if (anyNull(src1, src2, static_cast<const T*>(dst))) return PXL_E_NULL_PTR;
+    if (isEmpty(roi)) return PXL_E_SIZE;
+    if (anyStepBelow1(step1, step2, dstStep)) return PXL_E_STEP;
+    if (roundMode < PXL_ROUND_ZERO || roundMode > PXL_ROUND_HALF_AWAY) return PXL_E_ROUND_MODE;
+    static constexpr decltype(&divideRounded<T, 0>) divide[] = {
+        divideRounded<T, PXL_ROUND_ZERO>, divideRounded<T, PXL_ROUND_NEAR_EVEN>, divideRounded<T, PXL_ROUND_HALF_AWAY>};
+    const Region region = regionOf<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi);
+    return divide[roundMode](region, scaleFactor) ? PXL_W_DIV_BY_ZERO : PXL_OK;
+}
+
+} // namespace
+} // namespace pxl::PXL_TARGET
+
+#include "members/arith/div_round.inc"
