@@ -11,6 +11,7 @@ SUBSYSTEMS = [  # header order
     ("frame", "Version and image memory"),
     ("exchange", "Data exchange"),
     ("arith", "Arithmetic and logic"),
+    ("filter", "Filters"),
 ]
 
 

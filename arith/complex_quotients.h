@@ -1,6 +1,7 @@
-// Quotients of complex elements: with the divisor x = a + bi, the dividend y = c + di and m = a*a + b*b the real part is
-// (a*c + b*d) * (f/m), the imaginary part (a*d - b*c) * (f/m), with f = 2^-scaleFactor for integers and 1 for floats. All
-// operations are rounded, in single precision for floats and in double precision for integers, and in just that order.
+// Quotients of complex elements: with the divisor x = a + bi, the dividend y = c + di and m = a*a + b*b the real part
+// is (a*c + b*d) * (f/m), the imaginary part (a*d - b*c) * (f/m), with f = 2^-scaleFactor for integers and 1 for
+// floats. All operations are rounded, in single precision for floats and in double precision for integers, and in just
+// that order.
 #pragma once
 
 #include "arith/div_rows.h"
@@ -28,8 +29,9 @@ struct ComplexFloatQuotient {
     }
 };
 
-// 16sc and 32sc. A part q is q + 2^15 + 0.5 (32sc: 2^31), truncated, a tie to even, less 2^15: the first addition rounds to a
-// double, and what is left to do is rounding to nearest. Parts outside the range saturate; m = 0 gives 0 + 0i.
+// 16sc and 32sc. A part q is q + 2^15 + 0.5 (32sc: 2^31), truncated, a tie to even, less 2^15: the first addition
+// rounds to a double, and what is left to do is rounding to nearest. Parts outside the range saturate; m = 0 gives 0 +
+// 0i.
 template <class L>
 struct ComplexQuotient {
     static constexpr int fields = fieldsOf<L, double>; // real and imaginary parts by turns
@@ -42,8 +44,8 @@ struct ComplexQuotient {
     };
     double factor;
 
-    // Parts for f = 1 are at most 2^15.5 (32sc: 2^31.5), so from 17 (34) up they all come to 0; those other than 0 are at least
-    // 2^-31 (2^-63), so from -48 (-96) down they all saturate.
+    // Parts for f = 1 are at most 2^15.5 (32sc: 2^31.5), so from 17 (34) up they all come to 0; those other than 0 are
+    // at least 2^-31 (2^-63), so from -48 (-96) down they all saturate.
     explicit ComplexQuotient(int scaleFactor) : factor(factorOf<double>(scaleFactor, -48 * size, 17 * size)) {}
 
     PXL_INLINE Divisor prepare(Vec<L> x) const {

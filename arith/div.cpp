@@ -7,8 +7,8 @@
 namespace pxl::PXL_TARGET {
 namespace {
 
-// A divisor of 0, of either sign, gives the infinity with the sign of the dividend; for 0 and NaN the NaN that the processor
-// makes of 0 / 0.
+// A divisor of 0, of either sign, gives the infinity with the sign of the dividend; for 0 and NaN the NaN that the
+// processor makes of 0 / 0.
 struct FloatQuotient {
     struct Divisor {
         Vec<float> x;
@@ -26,23 +26,23 @@ struct FloatQuotient {
     }
 };
 
-template <int Elements, int Channels, class T, class Work>
+// Runs divide(region), which says whether a divisor was 0, if the arguments are good.
+template <int Elements, int Channels, class T, class Divide>
 PxlStatus withDivision(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi,
-                       Work&& work) {
+                       Divide&& divide) {
     constexpr bool anyStep = std::is_same_v<T, uint16_t>;
     if (anyStep && Elements > 1 && Channels == Elements && roi.width < 1) return PXL_E_SIZE;
     if (anyNull(src1, src2, static_cast<const T*>(dst))) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
     if (!anyStep && anyStepBelow1(step1, step2, dstStep)) return PXL_E_STEP;
-    const bool byZero = work(regionOf<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi));
+    const bool byZero = divide(regionOf<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi));
     return byZero ? PXL_W_DIV_BY_ZERO : PXL_OK;
 }
 
 template <class T, int Elements, int Channels>
 PxlStatus Div(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi, int scaleFactor) {
-    return withDivision<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi, [&](const Region& region) {
-        return withQuotient<T>(scaleFactor, [&](const auto& op) { return divideImages<T>(region, op); });
-    });
+    return withDivision<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi,
+                                            [&](const Region& region) { return divideRegion<T>(region, scaleFactor); });
 }
 
 template <class T, int Elements, int Channels>

@@ -9,9 +9,12 @@ namespace {
 
 template <class T>
 bool isZero(T value) {
-    if constexpr (partsOf<T> == 1) return value == 0;
-    else if constexpr (std::is_same_v<LaneOf<T>, float>) return value.re * value.re + value.im * value.im == 0;
-    else return value.re == 0 && value.im == 0;
+    if constexpr (partsOf<T> == 1)
+        return value == 0;
+    else if constexpr (std::is_same_v<LaneOf<T>, float>)
+        return value.re * value.re + value.im * value.im == 0;
+    else
+        return value.re == 0 && value.im == 0;
 }
 
 template <int Channels, class T>
@@ -43,9 +46,8 @@ template <class T, int Elements, int Channels>
 PxlStatus DivC(const T* src, int srcStep, ValueArg<T, Channels> value, T* dst, int dstStep, ImageSize roi,
                int scaleFactor) {
     return withDivisors<Elements, Channels>(
-        src, srcStep, valuesOf<Channels>(value), dst, dstStep, roi, [&](const Region& region) {
-            withQuotient<T>(scaleFactor, [&](const auto& op) { divideByConstants<T>(region, op); });
-        });
+        src, srcStep, valuesOf<Channels>(value), dst, dstStep, roi,
+        [&](const Region& region) { divideRegionByConstants<T>(region, scaleFactor); });
 }
 
 template <class T, int Elements, int Channels>

@@ -1,9 +1,10 @@
-// Quotients of two images with a rounding mode: dst = src2 * 2^-scaleFactor / src1, the first source being the divisor, rounded
-// toward zero, to nearest with ties to even, or to nearest with ties away from zero; saturated.
+// Quotients of two images with a rounding mode: dst = src2 * 2^-scaleFactor / src1, the first source being the divisor,
+// rounded toward zero, to nearest with ties to even, or to nearest with ties away from zero; saturated.
 //
-// The results are those of double precision, but 8u, and 16 bits with scaleFactor >= 0, come from single precision: there a
-// quotient is at least 2^-18 of it away from every integer and tie that it is not, so 2^-24 of it does not matter. (The quotient
-// y / (x * 2^n) is 1 / (2y) of it away, y * 2^n / x at least 1 / (2x), with a quotient up to 256 and x up to 255 for 8u.)
+// The results are those of double precision, but 8u, and 16 bits with scaleFactor >= 0, come from single precision:
+// there a quotient is at least 2^-18 of it away from every integer and tie that it is not, so 2^-24 of it does not
+// matter. (The quotient y / (x * 2^n) is 1 / (2y) of it away, y * 2^n / x at least 1 / (2x), with a quotient up to 256
+// and x up to 255 for 8u.)
 #include "arith/quotients.h"
 
 namespace pxl::PXL_TARGET {

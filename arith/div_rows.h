@@ -1,9 +1,11 @@
 // The rows of quotients: dst = dividends / divisors, of two images or of an image and one constant per channel.
 //
-// An operation has a type Divisor, which is what it makes of a vector of divisors; its member `zero` has the lanes that are 0:
+// An operation has a type Divisor, which is what it makes of a vector of divisors; its member `zero` has the lanes that
+// are 0:
 //     Divisor prepare(Vec<L> divisors) const;
 //     Vec<L> operator()(const Divisor& x, Vec<L> dividends) const;
-// Of constants that is made once per call. A divisor of 0 is noted for the call's status; constants have been tested before.
+// Of constants that is made once per call. A divisor of 0 is noted for the call's status; constants have been tested
+// before.
 #pragma once
 
 #include "arith/region.h"
@@ -11,7 +13,7 @@
 
 namespace pxl::PXL_TARGET {
 
-// ---- two images ----------------------------------------------------------------------------------------------------------------
+// ---- two images -----------------------------------------------------------------------------------------------------
 
 template <class Op>
 struct Division {
@@ -64,8 +66,9 @@ struct EndOfRow {
     }
 };
 
-// n lanes d[i] = y[i] / x[i]; of AC4 pixels the lanes up to the last third element, and fourth elements are stored again as
-// they were. The vector at the end overlaps the one before it; it is computed before anything is stored, so d may be x or y.
+// n lanes d[i] = y[i] / x[i]; of AC4 pixels the lanes up to the last third element, and fourth elements are stored
+// again as they were. The vector at the end overlaps the one before it; it is computed before anything is stored, so d
+// may be x or y.
 template <class L, class Op>
 void quotientRow(ptrdiff_t n, const void* divisors, const void* dividends, void* to, const RowPlan& plan) {
     constexpr ptrdiff_t step = lanes<L>;
@@ -103,28 +106,31 @@ void quotientRow(ptrdiff_t n, const void* divisors, const void* dividends, void*
 
 // Whether a divisor was 0.
 template <class L, class Op>
-inline bool divideImages(const Region& region, const Op& op) {
+[[gnu::noinline]] bool divideImages(const Region& region, const Op& op) {
     bool byZero = false;
     const Division<Op> division{op, &byZero};
     walkImages(region, quotientRow<L, Op>, &division);
     return byZero;
 }
 
-// ---- an image and constants ----------------------------------------------------------------------------------------------------
+// ---- an image and constants -----------------------------------------------------------------------------------------
 
 // An operation and the divisors of the first vectors of a ConstantRow.
 template <class L, class Op>
 struct ConstantDivision {
     static constexpr int vectors = 3;
     Op op;
+    bool same; // in all lanes
     typename Op::Divisor divisors[vectors];
 
-    ConstantDivision(const Op& o, const void* row) : ConstantDivision(o, row, std::make_index_sequence<vectors>{}) {}
+    ConstantDivision(const Op& o, const Region& region)
+        : ConstantDivision(o, region, std::make_index_sequence<vectors>{}) {}
 
 private:
     template <size_t... V>
-    ConstantDivision(const Op& o, const void* row, std::index_sequence<V...>)
-        : op(o), divisors{o.prepare(LoadU(static_cast<const L*>(row) + V * lanes<L>))...} {}
+    ConstantDivision(const Op& o, const Region& region, std::index_sequence<V...>)
+        : op(o), same(region.layout.elements == 1), divisors{o.prepare(
+                                                 LoadU(static_cast<const L*>(region.constants) + V * lanes<L>))...} {}
 };
 
 // The same with constants: a ConstantRow, or those of a row of one element. In AC4 rows they repeat after two vectors.
@@ -139,8 +145,9 @@ void constantQuotientRow(ptrdiff_t n, const void* from, const void* with, void* 
 
     const EndOfRow<L> atEnd(n, plan);
     const ptrdiff_t last = n - step;
-    const Vec<L> ofEnd = atEnd.whole ? LoadU(x + plan.endOf<L>(last)) : LoadEnds(x, n);
-    const Vec<L> end = atEnd.result(op(op.prepare(ofEnd), atEnd.load(y)), d);
+    auto divisor = constants.divisors[0];
+    if (!constants.same) divisor = op.prepare(atEnd.whole ? LoadU(x + plan.endOf<L>(last)) : LoadEnds(x, n));
+    const Vec<L> end = atEnd.result(op(divisor, atEnd.load(y)), d);
     if (!atEnd.whole) return StoreEnds(end, d, n);
     ptrdiff_t at = 0;
     if (plan.alpha) {
@@ -157,15 +164,15 @@ void constantQuotientRow(ptrdiff_t n, const void* from, const void* with, void* 
 }
 
 template <class L, class Op>
-inline void divideByConstants(const Region& region, const Op& op) {
-    const ConstantDivision<L, Op> division(op, region.constants);
+[[gnu::noinline]] void divideByConstants(const Region& region, const Op& op) {
+    const ConstantDivision<L, Op> division(op, region);
     walkConstants(region, constantQuotientRow<L, Op>, &division);
 }
 
-// ---- scale factors -------------------------------------------------------------------------------------------------------------
+// ---- scale factors --------------------------------------------------------------------------------------------------
 
-// 2^-scaleFactor by repeated doubling or halving, for a scaleFactor from `from` to `to`; beyond those that of the nearest of
-// them, which has the same results.
+// 2^-scaleFactor by repeated doubling or halving, for a scaleFactor from `from` to `to`; beyond those that of the
+// nearest of them, which has the same results.
 template <class Real>
 inline Real factorOf(int scaleFactor, int from, int to) {
     const int limited = scaleFactor < from ? from : scaleFactor > to ? to : scaleFactor;

@@ -1,7 +1,8 @@
 // Quotients of integers with result scaling: dst = y * 2^-scaleFactor / x, of two images or an image and constants.
 //
-// Most are true divisions of floating-point numbers, rounded by the processor. Where x is 0, that gives infinities, which
-// saturate, and for y = 0 a NaN, which becomes 0: limits pass a NaN on, and the integer that stands for it ends with zeros.
+// Most are true divisions of floating-point numbers, rounded by the processor. Where x is 0, that gives infinities,
+// which saturate, and for y = 0 a NaN, which becomes 0: limits pass a NaN on, and the integer that stands for it ends
+// with zeros.
 #pragma once
 
 #include "arith/div_rows.h"
@@ -20,7 +21,8 @@ PXL_INLINE Vec<Real> AtLeast(std::type_identity_t<Real> limit, Vec<Real> v) {
     return Max(Set<Real>(limit), v);
 }
 
-// Adding and subtracting 2^-n of the 2^(mantissa bits) that stand for the units rounds to multiples of 2^-n, ties to even.
+// Adding and subtracting 2^-n of the 2^(mantissa bits) that stand for the units rounds to multiples of 2^-n, ties to
+// even.
 template <class Real>
 PXL_INLINE Vec<Real> RoundToGrid(Vec<Real> v, std::type_identity_t<Real> magnitude) {
     return (v + Set<Real>(magnitude)) - Set<Real>(magnitude);
@@ -52,25 +54,24 @@ struct RealQuotient {
     }
 };
 
-// ---- 8u ------------------------------------------------------------------------------------------------------------------------
+// ---- 8u -------------------------------------------------------------------------------------------------------------
 
-// y * f / x + 0.5 in single precision, truncated, ties to even: just what rounding to nearest gives. Up to 256, nothing but a
-// tie is so close to one (at most 1 / (2x) for f >= 1, 1 / (2y) of the quotient for f <= 1) that single precision, with
-// 2^-24 of it, would make it one or bring it to the other side.
+// y * f / x + 0.5 in single precision, truncated, ties to even: just what rounding to nearest gives. Up to 256, nothing
+// but a tie is so close to one (at most 1 / (2x) for f >= 1, 1 / (2y) of the quotient for f <= 1) that single
+// precision, with 2^-24 of it, would make it one or bring it to the other side.
 struct RoundByte {
-    PXL_INLINE Vec<uint32_t> operator()(Vec<float> q) const {
-        return BitCast<uint32_t>(NearestInt(AtMost(255, q)));
-    }
+    PXL_INLINE Vec<uint32_t> operator()(Vec<float> q) const { return BitCast<uint32_t>(NearestInt(AtMost(255, q))); }
 };
 using ScaledByteQuotient = RealQuotient<uint8_t, float, RoundByte>;
 
 // The same for f = 1 with an approximate reciprocal, whose quotient is made exact by its remainder.
 //
-// Reciprocals are 16 bits below the point, 64 / 65536 less than the approximation says so that that of 1 fits. With R / 65536
-// in place of 1 / x the quotient q = y * R >> 16 is the largest integer that is not above y / x, or where that is less than a
-// half below y / x, perhaps the one below it: this holds as long as 65536 / x - 128 < R < 65536 / x * (1 + 1 / 255), and the
-// error of R is at most 24 / x + 0.5 upwards and 88.5 downwards. So y - q * x is less than 1.5 * x, and q is one too small where
-// it is more than x / 2, or x / 2 and q is odd. x = 0 has R = 0, so q = 0 becomes 1 for y > 0.
+// Reciprocals are 16 bits below the point, 64 / 65536 less than the approximation says so that that of 1 fits. With R /
+// 65536 in place of 1 / x the quotient q = y * R >> 16 is the largest integer that is not above y / x, or where that is
+// less than a half below y / x, perhaps the one below it: this holds as long as 65536 / x - 128 < R < 65536 / x * (1 +
+// 1 / 255), and the error of R is at most 24 / x + 0.5 upwards and 88.5 downwards. So y - q * x is less than 1.5 * x,
+// and q is one too small where it is more than x / 2, or x / 2 and q is odd. x = 0 has R = 0, so q = 0 becomes 1 for y
+// > 0.
 struct ByteQuotient {
     struct Divisor {
         Vec<uint8_t> x;
@@ -81,8 +82,8 @@ struct ByteQuotient {
     PXL_INLINE Divisor prepare(Vec<uint8_t> x) const {
         Vec<uint32_t> r[4];
         unrolled<4>([&](auto k) __attribute__((always_inline)) {
-            // The lower three bytes of a lane stay where they are, and so are 256, 65536 times as much. From 128 on, the last
-            // bit of a float is 2^-16.
+            // The lower three bytes of a lane stay where they are, and so are 256, 65536 times as much. From 128 on,
+            // the last bit of a float is 2^-16.
             constexpr int raised = k < 3 ? 8 * k : 0;
             constexpr float sixteenBits = (128 - 64 / 65536.f) / (1 << raised);
             const Vec<uint32_t> lane = BitCast<uint32_t>(x);
@@ -107,11 +108,11 @@ struct ByteQuotient {
     }
 };
 
-// ---- 16s -----------------------------------------------------------------------------------------------------------------------
+// ---- 16s ------------------------------------------------------------------------------------------------------------
 
-// q + 32768 + 0.5 in single precision, truncated, a tie to even, minus 32768. Its first addition rounds to what single precision
-// has at that place, a multiple of 2^-8 for q >= 0; what follows is exact enough to be rounding to nearest. Quotients below the
-// range saturate when they are packed, those above it have no integer to be packed.
+// q + 32768 + 0.5 in single precision, truncated, a tie to even, minus 32768. Its first addition rounds to what single
+// precision has at that place, a multiple of 2^-8 for q >= 0; what follows is exact enough to be rounding to nearest.
+// Quotients below the range saturate when they are packed, those above it have no integer to be packed.
 struct RoundShort {
     PXL_INLINE Vec<uint32_t> operator()(Vec<float> q) const {
         const Vec<float> limited = AtLeast(-32768, AtMost(32767, q));
@@ -138,14 +139,15 @@ struct ShortQuotient {
     }
 };
 
-// ---- 16u -----------------------------------------------------------------------------------------------------------------------
+// ---- 16u ------------------------------------------------------------------------------------------------------------
 //
-// The quotient is truncated to 16 bits below the point and then rounded; from an odd integer, fractions from 0x7FFF / 65536 go
-// up, from an even one those from 0x8001 / 65536. So what is less than 2^-16 away from a tie is a tie, and goes to even.
+// The quotient is truncated to 16 bits below the point and then rounded; from an odd integer, fractions from 0x7FFF /
+// 65536 go up, from an even one those from 0x8001 / 65536. So what is less than 2^-16 away from a tie is a tie, and
+// goes to even.
 
-// scaleFactor 0. Quotients of integers y / x are 1 / (2x) away from a tie if they are none. With x <= 32768 that is 2^-16 or
-// more, and rounding single-precision quotients to nearest is exact (1 / (2y) of a quotient against 2^-24). Above, the quotient
-// is less than 2 and two of them must be found: 1/2 + 1 / (2x) goes to 0, 3/2 - 1 / (2x) goes to 2.
+// scaleFactor 0. Quotients of integers y / x are 1 / (2x) away from a tie if they are none. With x <= 32768 that is
+// 2^-16 or more, and rounding single-precision quotients to nearest is exact (1 / (2y) of a quotient against 2^-24).
+// Above, the quotient is less than 2 and two of them must be found: 1/2 + 1 / (2x) goes to 0, 3/2 - 1 / (2x) goes to 2.
 struct WordQuotient {
     struct Divisor {
         BlockNumbers number;
@@ -168,10 +170,10 @@ struct WordQuotient {
     }
 };
 
-// Other scale factors, in double precision: quotients are rounded to multiples of 2^-15, ties to even, which makes ties of
-// those less than 2^-16 away from one, and then to nearest. A quotient that is 2^-16 away from a tie with an odd integer is one
-// and above a tie with an even integer is none. Such occur for scaleFactor > 0 only; there the factor is larger by 2^-36 of it,
-// and so little that no other quotient (they are 2^-32 of it away from these) goes elsewhere.
+// Other scale factors, in double precision: quotients are rounded to multiples of 2^-15, ties to even, which makes ties
+// of those less than 2^-16 away from one, and then to nearest. A quotient that is 2^-16 away from a tie with an odd
+// integer is one and above a tie with an even integer is none. Such occur for scaleFactor > 0 only; there the factor is
+// larger by 2^-36 of it, and so little that no other quotient (they are 2^-32 of it away from these) goes elsewhere.
 struct RoundWord {
     PXL_INLINE Vec<uint64_t> operator()(Vec<double> q) const {
         const Vec<double> snapped = RoundToGrid(AtMost(65535, q), unitsAtEnd / 32768);
@@ -185,12 +187,12 @@ inline double wordFactorOf(int scaleFactor) {
     return scaleFactor > 0 ? factor * (1 + 1.0 / (uint64_t{1} << 36)) : factor;
 }
 
-// ---- all -----------------------------------------------------------------------------------------------------------------------
+// ---- regions --------------------------------------------------------------------------------------------------------
 
-// apply(operation) with the one for the scale factor. From 9 (8u), 17 (16u, 16s) up all quotients are rounded to 0; from -16,
-// -32 and -31 down all but 0 saturate.
+// apply(operation) with the one for the scale factor. From 9 (8u), 17 (16u, 16s) up all quotients are rounded to 0;
+// from -16, -32 and -31 down all but 0 saturate.
 template <class L, class Apply>
-inline auto withQuotient(int scaleFactor, Apply&& apply) {
+PXL_INLINE auto withQuotient(int scaleFactor, Apply&& apply) {
     if constexpr (std::is_same_v<L, uint8_t>) {
         if (scaleFactor == 0) return apply(ByteQuotient{});
         return apply(ScaledByteQuotient{factorOf<float>(scaleFactor, -16, 9), {}});
@@ -201,6 +203,17 @@ inline auto withQuotient(int scaleFactor, Apply&& apply) {
         if (scaleFactor == 0) return apply(ShortQuotient{});
         return apply(ScaledShortQuotient{factorOf<float>(scaleFactor, -31, 17), {}});
     }
+}
+
+// Whether a divisor was 0.
+template <class L>
+[[gnu::noinline]] bool divideRegion(const Region& region, int scaleFactor) {
+    return withQuotient<L>(scaleFactor, [&](const auto& op) { return divideImages<L>(region, op); });
+}
+
+template <class L>
+[[gnu::noinline]] void divideRegionByConstants(const Region& region, int scaleFactor) {
+    withQuotient<L>(scaleFactor, [&](const auto& op) { divideByConstants<L>(region, op); });
 }
 
 } // namespace pxl::PXL_TARGET

@@ -1,9 +1,9 @@
 // The engine of element-wise operations dst = op(a, b) between two images, or an image and one constant per channel.
 //
 // An operation is a callable object over vectors, Vec<Lane> op(Vec<Lane>, Vec<Lane>), with whatever it needs (shift
-// counts, factors) set up once per call. It is compiled into two row functions, one for channels alike and one for AC4,
-// which serve all layouts: constants are a short row of pixels that the row function reads again and again, complex
-// elements are pairs of lanes. The walk over the region is the same code for all operations.
+// counts, factors) set up once per call. It is compiled into one row function, which serves all layouts: constants are a
+// short row of pixels that is read again and again, complex elements are pairs of lanes, and AC4 rows blend. The walk over
+// the region is the same code for all operations.
 #pragma once
 
 #include "frame/vec.h"
@@ -74,8 +74,7 @@ struct ConstantRow {
                 StoreU(pattern.v[j % Pattern<E>::count], bytes + j * vecBytes);
             });
         } else {
-            for (int o = 0; o < vectors * vecBytes; o += E)
-                std::memcpy(bytes + o, pixel, E);
+            for (int o = 0; o < vectors * vecBytes; o += E) std::memcpy(bytes + o, pixel, E);
         }
     }
 };
@@ -85,8 +84,7 @@ template <int ElementBytes>
 struct AlphaBytes {
     alignas(vecBytes) uint8_t bytes[3 * vecBytes];
     constexpr AlphaBytes() : bytes{} {
-        for (int k = 0; k < 3 * vecBytes; ++k)
-            bytes[k] = k / ElementBytes % 4 == 3 ? 0xFF : 0;
+        for (int k = 0; k < 3 * vecBytes; ++k) bytes[k] = k / ElementBytes % 4 == 3 ? 0xFF : 0;
     }
 };
 template <int ElementBytes>
@@ -214,8 +212,7 @@ void elementRow(ptrdiff_t n, const void* from, const void* with, void* to, const
         StoreU(second, d + x + step);
         StoreU(third, d + x + 2 * step);
     }
-    for (; x < last; x += step, b += step)
-        StoreU(op(LoadU(a + x), LoadU(b)), d + x);
+    for (; x < last; x += step, b += step) StoreU(op(LoadU(a + x), LoadU(b)), d + x);
     StoreU(end, d + last);
 }
 
@@ -225,7 +222,7 @@ using RowFunction = void (*)(ptrdiff_t n, const void* a, const void* b, void* d,
 
 // Walks rows of images. Channels alike are walked as elements, AC4 as pixels, which are done element by element where
 // the walker asks for single ones.
-[[gnu::noinline]] inline void walkImages(const Region& r, RowFunction row, const void* op) {
+[[gnu::noinline, gnu::flatten]] inline void walkImages(const Region& r, RowFunction row, const void* op) {
     const Layout& l = r.layout;
     const RowPlan plan{op, false, l.alpha, l.endPhase}, plain{op, false, nullptr, 0};
     const ptrdiff_t e = l.elementBytes, parts = l.parts;
@@ -234,8 +231,7 @@ using RowFunction = void (*)(ptrdiff_t n, const void* a, const void* b, void* d,
     };
     const auto pixels = [=, &plan](ptrdiff_t n, const char* a, const char* b, char* d) {
         if (n > 1) return row((4 * n - 1) * parts, a, b, d, plan);
-        for (ptrdiff_t o = 0; o < 3 * e; o += e)
-            elements(1, a + o, b + o, d + o);
+        for (ptrdiff_t o = 0; o < 3 * e; o += e) elements(1, a + o, b + o, d + o);
     };
     const ptrdiff_t unit = l.alpha ? 4 : 1,
                     width = l.alpha ? r.roi.width : r.roi.width * static_cast<ptrdiff_t>(l.elements);
@@ -249,7 +245,7 @@ using RowFunction = void (*)(ptrdiff_t n, const void* a, const void* b, void* d,
 }
 
 // Walks rows of an image and constants by pixels, single ones element by element too.
-[[gnu::noinline]] inline void walkConstants(const Region& r, RowFunction row, const void* op) {
+[[gnu::noinline, gnu::flatten]] inline void walkConstants(const Region& r, RowFunction row, const void* op) {
     const Layout& l = r.layout;
     const ptrdiff_t e = l.elementBytes, pixel = l.elements * e;
     const ptrdiff_t unit = l.elements * l.parts, skipped = (l.elements - l.channels) * l.parts; // lanes
@@ -257,8 +253,7 @@ using RowFunction = void (*)(ptrdiff_t n, const void* a, const void* b, void* d,
     const auto kernel = [=, &r, &l, &plan, &alike](ptrdiff_t n, const char* s, char* d) {
         if (n > 1) return row(n * unit - skipped, s, r.constants, d, plan);
         const char* values = static_cast<const char*>(r.b);
-        for (ptrdiff_t o = 0; o < l.channels * e; o += e)
-            row(l.parts, s + o, values + o, d + o, alike);
+        for (ptrdiff_t o = 0; o < l.channels * e; o += e) row(l.parts, s + o, values + o, d + o, alike);
     };
     walkRows(r.roi.width, r.roi.height, kernel, Operand<const char>{static_cast<const char*>(r.a), r.aStep, pixel},
              Operand<char>{static_cast<char*>(r.dst), r.dstStep, pixel});
@@ -269,8 +264,7 @@ inline void zeroColours(ptrdiff_t n, uint8_t* d, const uint8_t* alpha, ptrdiff_t
     if (n < vecBytes) return StoreEnds(LoadEnds(d, n) & LoadEnds(alpha, n), d, n);
     const ptrdiff_t last = n - vecBytes;
     const Vec<uint8_t> end = LoadU(d + last) & LoadU(alpha + endPhase);
-    for (ptrdiff_t x = 0; x < last; x += vecBytes)
-        StoreU(LoadU(d + x) & LoadU(alpha + x % (2 * vecBytes)), d + x);
+    for (ptrdiff_t x = 0; x < last; x += vecBytes) StoreU(LoadU(d + x) & LoadU(alpha + x % (2 * vecBytes)), d + x);
     StoreU(end, d + last);
 }
 

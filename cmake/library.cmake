@@ -2,7 +2,7 @@
 
 set(PXL_GENERATED ${CMAKE_BINARY_DIR}/generated)
 file(GLOB PXL_API CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/api/*)
-set(PXL_SUBSYSTEMS exchange arith)
+set(PXL_SUBSYSTEMS exchange arith filter)
 set(PXL_FAMILIES)
 foreach(subsystem IN LISTS PXL_SUBSYSTEMS)
     file(GLOB sources CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} ${subsystem}/*.cpp)
@@ -37,7 +37,7 @@ set(PXL_CODE_FLAGS -ffp-contract=off -fno-math-errno -fno-strict-aliasing)
 function(pxl_objects name)
     add_library(${name} OBJECT ${ARGN})
     add_dependencies(${name} pxl_generate)
-    target_link_libraries(${name} PRIVATE pxl_flags)
+    target_link_libraries(${name} PRIVATE pxl_flags OpenMP::OpenMP_CXX)
     target_include_directories(${name} PRIVATE ${PXL_GENERATED})
     target_compile_options(${name} PRIVATE ${PXL_CODE_FLAGS})
 endfunction()
@@ -60,11 +60,13 @@ target_link_libraries(pxlcore PRIVATE pxl_flags OpenMP::OpenMP_CXX)
 
 add_library(pxlimx SHARED $<TARGET_OBJECTS:pxl_common> ${PXL_TARGET_OBJECTS})
 set_target_properties(pxlimx PROPERTIES OUTPUT_NAME pxlimx-5.3 LINK_DEPENDS ${PXL_GENERATED}/pxlimx.map)
+target_link_libraries(pxlimx PRIVATE pxlcore OpenMP::OpenMP_CXX)
 target_link_options(pxlimx PRIVATE -Wl,--version-script=${PXL_GENERATED}/pxlimx.map -Wl,-z,defs)
 add_dependencies(pxlimx pxl_generate)
 
 foreach(library pxlcore pxlimx)
-    set_target_properties(${library} PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR} LINKER_LANGUAGE CXX)
+    set_target_properties(${library} PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR} LINKER_LANGUAGE CXX
+                                                INSTALL_RPATH $ORIGIN)
     # The run-time dependencies are the C library and OpenMP: what little of the C++ runtime is used comes along.
     target_link_options(${library} PRIVATE -static-libstdc++ -static-libgcc)
     target_include_directories(${library} INTERFACE $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/include>

@@ -11,7 +11,7 @@
 enum { LARGEST_SIDE = 10000 };
 
 void fail(const char* what, const char* why) {
-    fprintf(stderr, "exchange: %s: %s\n", what, why);
+    fprintf(stderr, "%s: %s\n", what, why);
     exit(EXIT_FAILURE);
 }
 

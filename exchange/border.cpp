@@ -37,6 +37,9 @@ struct Borders {
 using Source = Operand<const uint8_t>;
 using Destination = Operand<uint8_t>;
 
+Source readable(const Destination& o) { return {o.base, o.step, o.pixelBytes}; }
+Destination moved(const Destination& o, ptrdiff_t x, ptrdiff_t y) { return {o.at(x, y), o.step, o.pixelBytes}; }
+
 // What differs with the layout of pixels: the bytes of a pixel that are processed, and how a run of pixels is copied
 // that does not overlap its copy.
 using CopyRun = void(const uint8_t* s, uint8_t* d, ptrdiff_t bytes);
@@ -64,8 +67,7 @@ PXL_INLINE void copyBytesInline(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
         std::memcpy(d, s, static_cast<size_t>(bytes));
         return;
     }
-    for (ptrdiff_t o = 0; o < bytes - vecBytes; o += vecBytes)
-        StoreU(LoadU(s + o), d + o);
+    for (ptrdiff_t o = 0; o < bytes - vecBytes; o += vecBytes) StoreU(LoadU(s + o), d + o);
     StoreU(LoadU(s + bytes - vecBytes), d + bytes - vecBytes);
 }
 void copyBytes(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) { copyBytesInline(s, d, bytes); }
@@ -77,8 +79,7 @@ void copyColours(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     const Vec<uint8_t> alpha = alphaPattern<Bytes>().v[0];
     const ptrdiff_t last = bytes - Bytes;
     ptrdiff_t o = 0;
-    for (; o + vecBytes <= last; o += vecBytes)
-        StoreU(blend(alpha, LoadU(d + o), LoadU(s + o)), d + o);
+    for (; o + vecBytes <= last; o += vecBytes) StoreU(blend(alpha, LoadU(d + o), LoadU(s + o)), d + o);
     const auto copyPiece = [&](auto size) __attribute__((always_inline)) {
         if (!(last & size)) return;
         storePiece<size>(blend(headOf(ints(alpha)), loadPiece<size>(d + o), loadPiece<size>(s + o)), d + o);
@@ -87,7 +88,7 @@ void copyColours(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     if constexpr (vecBytes > 16) copyPiece(std::integral_constant<int, 16>{});
     if constexpr (Bytes <= 8) copyPiece(std::integral_constant<int, 8>{});
     if constexpr (Bytes <= 4) copyPiece(std::integral_constant<int, 4>{});
-    storeColour<Bytes>(loadColour<Bytes>(s + last), d + last);
+    storePiece<colourBytes<Bytes>>(loadPiece<colourBytes<Bytes>>(s + last), d + last);
 }
 
 template <int Bytes, int Processed>
@@ -195,11 +196,11 @@ void extendByConstant(const Source& src, const Destination& dst, const Borders& 
     Borders none = b; // of rows that are all margin
     none.left = none.width = 0;
     const auto fillRows = [&](ptrdiff_t y, ptrdiff_t end) {
-        const Destination at = {dst.at(0, y), dst.step, dst.pixelBytes};
-        makeRows({{at.base, at.step, at.pixelBytes}, at, end - y}, none, pattern);
+        const Destination rows = moved(dst, 0, y);
+        makeRows({readable(rows), rows, end - y}, none, pattern);
     };
     fillRows(0, b.top);
-    makeRows({src, {dst.at(b.left, b.top), dst.step, dst.pixelBytes}, b.height}, b, pattern);
+    makeRows({src, moved(dst, b.left, b.top), b.height}, b, pattern);
     fillRows(b.top + b.height, b.outHeight);
 }
 
@@ -214,10 +215,8 @@ void copyMarginRows(const Destination& dst, const Borders& b, const Layout& layo
     const auto copyRow = [&](ptrdiff_t y) {
         layout.copyRun(dst.at(0, b.top + map(y - b.top, b.height)), dst.at(0, y), b.outWidth * dst.pixelBytes);
     };
-    for (ptrdiff_t y = 0; y < b.top; ++y)
-        copyRow(y);
-    for (ptrdiff_t y = b.top + b.height; y < b.outHeight; ++y)
-        copyRow(y);
+    for (ptrdiff_t y = 0; y < b.top; ++y) copyRow(y);
+    for (ptrdiff_t y = b.top + b.height; y < b.outHeight; ++y) copyRow(y);
 }
 
 void extend(const Source& src, const Destination& dst, const Borders& b, const Layout& layout, MakeRows* makeRows,
@@ -225,17 +224,17 @@ void extend(const Source& src, const Destination& dst, const Borders& b, const L
     if (!allApart(src, dst, b))
         return extendPlainly(dst, b, layout.processed,
                              [&](ptrdiff_t x, ptrdiff_t y) { return src.at(map(x, b.width), map(y, b.height)); });
-    makeRows({src, {dst.at(b.left, b.top), dst.step, dst.pixelBytes}, b.height}, b, nullptr);
+    makeRows({src, moved(dst, b.left, b.top), b.height}, b, nullptr);
     copyMarginRows(dst, b, layout, map);
 }
 
 void extendInPlace(const Destination& inside, const Borders& b, const Layout& layout, MakeRows* makeRows, Map* map) {
-    const Destination dst = {inside.at(-b.left, -b.top), inside.step, inside.pixelBytes};
+    const Destination dst = moved(inside, -b.left, -b.top);
     if (!rowsApart(dst, b))
         return extendPlainly(dst, b, layout.processed, [&](ptrdiff_t x, ptrdiff_t y) {
             return b.isInside(x, y) ? nullptr : inside.at(map(x, b.width), map(y, b.height));
         });
-    makeRows({{inside.base, inside.step, inside.pixelBytes}, inside, b.height}, b, nullptr);
+    makeRows({readable(inside), inside, b.height}, b, nullptr);
     copyMarginRows(dst, b, layout, map);
 }
 
@@ -270,8 +269,7 @@ PxlStatus CopyConstBorder(const T* src, int srcStep, ImageSize srcSize, T* dst, 
     if (const PxlStatus status = check(src, srcStep, dst, dstStep, b)) return status;
     if (anyNull(value)) return PXL_E_NULL_PTR;
     T pixel[Elements] = {}; // a copy, since the destination may overlap the values
-    for (int c = 0; c < Channels; ++c)
-        pixel[c] = load1(value + c);
+    for (int c = 0; c < Channels; ++c) pixel[c] = load1(value + c);
     const Pattern<F::bytes> pattern = patternOf<F::bytes>(pixel);
     extendByConstant(F::source(src, srcStep), F::destination(dst, dstStep), b, F::layout(),
                      makeConstRows<F::bytes, F::processed>, &pattern, reinterpret_cast<const uint8_t*>(pixel));

@@ -21,8 +21,7 @@ PXL_INLINE void copyRow(uint8_t* d, const uint8_t* s, ptrdiff_t n, bool streamed
     ptrdiff_t x = 0;
     for (; streamed && x + 128 <= n; x += 128)
 #pragma GCC unroll 8
-        for (int i = 0; i < 128; i += vecBytes)
-            Streamed::store(LoadU(s + x + i), d + x + i);
+        for (int i = 0; i < 128; i += vecBytes) Streamed::store(LoadU(s + x + i), d + x + i);
     copyBytes(d + x, s + x, n - x);
 }
 

@@ -5,6 +5,7 @@
 // a pixel has the channel as its first element, and the vector at the end of a row has it as its last.
 #include "frame/checks.h"
 #include "frame/row_parts.h"
+#include "frame/streaming.h"
 #include "frame/vec_interleave.h"
 #include "frame/walk.h"
 #include "pxli.h"
@@ -12,10 +13,8 @@
 namespace pxl::PXL_TARGET {
 namespace {
 
-// ---- rows of a channel
-// -------------------------------------------------------------------------------------------------------
+// ---- rows of a channel --------------------------------------------------------------------------------------------
 
-// Vectors of pixels of N elements, from memory in which the channel is the first or the last element at the end.
 template <class T, int N>
 struct PixelVectors {
     Vec<T> v[N];
@@ -36,8 +35,7 @@ PXL_INLINE void ownExtractChannelRow(ptrdiff_t n, const T* s, T* d) {
         return [v = channel(p, ChannelOf<N - 1>{}, x), at = d + x] { StorePart<P>(v, at); };
     };
     if (rowByPartsAndEnd<lanes<T>, leastPart<T>>(n, part, end)) return;
-    for (ptrdiff_t x = 0; x < n; ++x)
-        store1(d + x, load1(s + x * N));
+    for (ptrdiff_t x = 0; x < n; ++x) store1(d + x, load1(s + x * N));
 }
 
 // source(Part<P>, ChannelOf<Channel>, x, vectors) gives P pixels from x on that hold the new values of the channel.
@@ -68,8 +66,7 @@ PXL_INLINE void ownInsertChannelRow(ptrdiff_t n, const T* s, T* d) {
         spreadChannel<Channel>(LoadPart<P>(s + x), v);
     };
     if (ownReplaceChannelRow<T, N>(n, spread, d)) return;
-    for (ptrdiff_t x = 0; x < n; ++x)
-        store1(d + x * N, load1(s + x));
+    for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x));
 }
 
 template <class T, int N>
@@ -78,8 +75,7 @@ PXL_INLINE void ownMoveChannelRow(ptrdiff_t n, const T* s, T* d) {
         loadPixels<P>(s + x * N - Channel, v);
     };
     if (ownReplaceChannelRow<T, N>(n, pixels, d)) return;
-    for (ptrdiff_t x = 0; x < n; ++x)
-        store1(d + x * N, load1(s + x * N));
+    for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x * N));
 }
 
 template <class T, int SrcElements, int DstElements>
@@ -112,16 +108,14 @@ PxlStatus CopyChannel(const T* src, int srcStep, T* dst, int dstStep, ImageSize 
     return PXL_OK;
 }
 
-// ---- planes
-// --------------------------------------------------------------------------------------------------------------------
+// ---- planes -------------------------------------------------------------------------------------------------------
 
 template <class T, int Planes>
 PXL_INLINE void splitPixels(ptrdiff_t n, const T* s, T* const (&d)[Planes]) {
     for (ptrdiff_t x = 0; x < n; ++x) {
         T pixel[Planes];
         std::memcpy(pixel, s + x * Planes, sizeof pixel);
-        for (int p = 0; p < Planes; ++p)
-            store1(d[p] + x, pixel[p]);
+        for (int p = 0; p < Planes; ++p) store1(d[p] + x, pixel[p]);
     }
 }
 
@@ -143,8 +137,7 @@ template <class T, int Planes>
 PXL_INLINE void ownSplitRow(ptrdiff_t n, const T* s, T* const (&d)[Planes], bool streamed) {
     constexpr int most = lanes<T>;
     ptrdiff_t x = 0;
-    for (; streamed && x + most <= n; x += most)
-        splitPart<Streamed, most>(s, d, x);
+    for (; streamed && x + most <= n; x += most) splitPart<Streamed, most>(s, d, x);
     const auto part = [&]<int P>(Part<P>, ptrdiff_t at) { splitPart<Cached, P>(s, d, at); };
     if (!rowByParts<most, leastPart<T>>(n, part, x)) splitPixels(n, s, d);
 }
@@ -153,8 +146,7 @@ template <class T, int Planes>
 PXL_INLINE void mergePixels(ptrdiff_t n, const T* const (&s)[Planes], T* d) {
     for (ptrdiff_t x = 0; x < n; ++x) {
         T pixel[Planes];
-        for (int p = 0; p < Planes; ++p)
-            pixel[p] = load1(s[p] + x);
+        for (int p = 0; p < Planes; ++p) pixel[p] = load1(s[p] + x);
         std::memcpy(d + x * Planes, pixel, sizeof pixel);
     }
 }
@@ -163,8 +155,7 @@ template <class Stores, int P, class T, int Planes>
 PXL_INLINE void mergePart(const T* const (&s)[Planes], T* d, ptrdiff_t x) {
     Vec<T> v[Planes];
 #pragma GCC unroll 4
-    for (int p = 0; p < Planes; ++p)
-        v[p] = LoadPart<P>(s[p] + x);
+    for (int p = 0; p < Planes; ++p) v[p] = LoadPart<P>(s[p] + x);
     interleave(v);
     storePixels<P, Stores>(v, d + x * Planes);
 }
@@ -173,8 +164,7 @@ template <class T, int Planes>
 PXL_INLINE void ownMergeRow(ptrdiff_t n, const T* const (&s)[Planes], T* d, bool streamed) {
     constexpr int most = lanes<T>;
     ptrdiff_t x = 0;
-    for (; streamed && x + most <= n; x += most)
-        mergePart<Streamed, most>(s, d, x);
+    for (; streamed && x + most <= n; x += most) mergePart<Streamed, most>(s, d, x);
     const auto part = [&]<int P>(Part<P>, ptrdiff_t at) { mergePart<Cached, P>(s, d, at); };
     if (!rowByParts<most, leastPart<T>>(n, part, x)) mergePixels(n, s, d);
 }

@@ -1,7 +1,7 @@
 // Masked copies: dst = src where the mask is not 0.
 //
-// The kernels see pixels of E bytes, whatever their elements are. The last pixel of an AC4 row is copied element by
-// element, because the source need not end with a fourth one.
+// The kernels see pixels of E bytes, whatever their elements are. The last pixel of an AC4 row is copied alone, because
+// the source need not end with a fourth element.
 #include "exchange/masked_row.h"
 #include "frame/checks.h"
 #include "frame/vec.h"
@@ -26,16 +26,11 @@ void copyRow(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m) {
     blendRow<E>(n, m, d, RowSource{s});
 }
 
-template <int E>
-PxlStatus copyMaskedPixels(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roi,
-                           const uint8_t* mask, int maskStep) {
-    return copyMasked(src, srcStep, dst, dstStep, roi, mask, maskStep, E, copyRow<E>);
-}
-
 template <class T, int Elements>
 PxlStatus CopyMasked(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const uint8_t* mask, int maskStep) {
-    return copyMaskedPixels<Elements * sizeof(T)>(reinterpret_cast<const uint8_t*>(src), srcStep,
-                                                  reinterpret_cast<uint8_t*>(dst), dstStep, roi, mask, maskStep);
+    constexpr int E = Elements * sizeof(T);
+    return copyMasked(reinterpret_cast<const uint8_t*>(src), srcStep, reinterpret_cast<uint8_t*>(dst), dstStep, roi,
+                      mask, maskStep, E, copyRow<E>);
 }
 
 template <int E>
@@ -43,7 +38,8 @@ void copyColourRow(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m) 
     const ptrdiff_t last = (n - 1) * E;
     blendRow<E>(n - 1, m, d, RowSource{s}, alphaPattern<E>());
     const Piece keep = widenMask<E>(zeroBytes(loadPiece<1>(m + n - 1)));
-    storeColour<E>(blend(keep, loadColour<E>(d + last), loadColour<E>(s + last)), d + last);
+    constexpr int colour = colourBytes<E>;
+    storePiece<colour>(blend(keep, loadPiece<colour>(d + last), loadPiece<colour>(s + last)), d + last);
 }
 
 template <class T>

@@ -2,6 +2,7 @@
 // from the destination or exactly in place.
 #pragma once
 
+#include "frame/streaming.h"
 #include "frame/vec_groups.h"
 
 namespace pxl::PXL_TARGET {
@@ -35,8 +36,7 @@ PXL_INLINE void loadGroups(const T* p, Vec<T> (&v)[4]) {
         LoadGroups3(p, v[0], v[1], v[2], v[3]);
     } else {
 #pragma GCC unroll 4
-        for (int i = 0; i < 4; ++i)
-            v[i] = LoadU(p + i * lanes<T>);
+        for (int i = 0; i < 4; ++i) v[i] = LoadU(p + i * lanes<T>);
     }
 }
 template <int Elements, class Stores, class T>
@@ -45,8 +45,7 @@ PXL_INLINE void storeGroups(const Vec<T> (&v)[4], T* p) {
         StoreGroups3<Stores>(v[0], v[1], v[2], v[3], p);
     } else {
 #pragma GCC unroll 4
-        for (int i = 0; i < 4; ++i)
-            Stores::store(v[i], p + i * lanes<T>);
+        for (int i = 0; i < 4; ++i) Stores::store(v[i], p + i * lanes<T>);
     }
 }
 
@@ -57,8 +56,7 @@ PXL_INLINE void changeGroups(const T* s, T* d, Change change) {
     Vec<T> v[4];
     loadGroups<Form.srcElements>(s, v);
 #pragma GCC unroll 4
-    for (int i = 0; i < 4; ++i)
-        v[i] = change(v[i], Form.keepsOld ? LoadU(d + i * lanes<T>) : Zero<T>());
+    for (int i = 0; i < 4; ++i) v[i] = change(v[i], Form.keepsOld ? LoadU(d + i * lanes<T>) : Zero<T>());
     storeGroups<Form.dstElements, Stores>(v, d);
 }
 
@@ -99,16 +97,13 @@ PXL_INLINE void ownChangeRow(ptrdiff_t n, const T* s, T* d, bool streamed, Chang
     };
     ptrdiff_t x = 0;
     if constexpr (!Form.keepsOld)
-        for (; streamed && x + block <= readable; x += block)
-            changeBlock(x, Streamed{});
-    for (; x + block <= readable; x += block)
-        changeBlock(x, Cached{});
+        for (; streamed && x + block <= readable; x += block) changeBlock(x, Streamed{});
+    for (; x + block <= readable; x += block) changeBlock(x, Cached{});
     if (x > 0 && readable - x > 2 * group && s != d) {
         changeBlock(readable - block, Cached{});
         x = readable == n ? n : n - group;
     }
-    for (; x + group <= n; x += group)
-        changeGroup<T, Form>(source(x), d + x * Form.dstElements, change);
+    for (; x + group <= n; x += group) changeGroup<T, Form>(source(x), d + x * Form.dstElements, change);
     if (x < n) changeGroup<T, Form>(last, d + (n - group) * Form.dstElements, change);
 }
 

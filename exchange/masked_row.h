@@ -58,8 +58,7 @@ PXL_INLINE void blendFew(ptrdiff_t n, const uint8_t* m, uint8_t* d, const Source
             if constexpr (size < 16) {
                 storePiece<size>(blended(0), d);
             } else {
-                for (ptrdiff_t o = 0; o < end; o += size)
-                    storePiece<size>(blended(o), d + o);
+                for (ptrdiff_t o = 0; o < end; o += size) storePiece<size>(blended(o), d + o);
             }
             storePiece<size>(last, d + end);
         });

@@ -10,8 +10,7 @@
 namespace pxl::PXL_TARGET {
 namespace {
 
-// ---- orders
-// ------------------------------------------------------------------------------------------------------------------
+// ---- orders -------------------------------------------------------------------------------------------------------
 
 // In the order of three elements to four: writes a value. This and above: keeps the destination's element, as a fourth
 // one that has no entry does.
@@ -25,8 +24,7 @@ bool isInRange(const int32_t* order, int32_t last) {
     return true;
 }
 
-// ---- rows
-// --------------------------------------------------------------------------------------------------------------------
+// ---- rows ---------------------------------------------------------------------------------------------------------
 
 #ifdef __AVX2__
 
@@ -96,8 +94,7 @@ void ownSwap(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, cons
 
 #endif
 
-// ---- members
-// -----------------------------------------------------------------------------------------------------------------
+// ---- members ------------------------------------------------------------------------------------------------------
 
 template <class T, int Elements>
 PxlStatus SwapChannels(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const int32_t* dstOrder) {
@@ -152,8 +149,7 @@ PxlStatus SwapChannels4To3(const T* src, int srcStep, T* dst, int dstStep, Image
     return PXL_OK;
 }
 
-// ---- one channel to three
-// ------------------------------------------------------------------------------------------------------
+// ---- one channel to three -----------------------------------------------------------------------------------------
 
 template <class T>
 void ownDuplicateRow(ptrdiff_t n, const T* s, T* d) {
@@ -165,8 +161,7 @@ void ownDuplicateRow(ptrdiff_t n, const T* s, T* d) {
     if (rowByParts<lanes<T>, leastPart<T>>(n, part)) return;
     for (ptrdiff_t x = 0; x < n; ++x) {
         const T value = load1(s + x);
-        for (int k = 0; k < 3; ++k)
-            store1(d + x * 3 + k, value);
+        for (int k = 0; k < 3; ++k) store1(d + x * 3 + k, value);
     }
 }
 

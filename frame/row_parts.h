@@ -21,8 +21,7 @@ template <int Most, int Least, class PartOfRow>
 PXL_INLINE bool rowByParts(ptrdiff_t n, PartOfRow&& part, ptrdiff_t done = 0) {
     if (n >= Most) {
         ptrdiff_t x = done;
-        for (; x + Most <= n; x += Most)
-            part(Part<Most>{}, x);
+        for (; x + Most <= n; x += Most) part(Part<Most>{}, x);
         if (x < n) part(Part<Most>{}, n - Most);
         return true;
     }
@@ -37,8 +36,7 @@ template <int Most, int Least, class PartOfRow, class EndOfRow>
 PXL_INLINE bool rowByPartsAndEnd(ptrdiff_t n, PartOfRow&& part, EndOfRow&& end) {
     if (n > Most) {
         const auto storeEnd = end(Part<Most>{}, n - Most);
-        for (ptrdiff_t x = 0; x + Most < n; x += Most)
-            part(Part<Most>{}, x);
+        for (ptrdiff_t x = 0; x + Most < n; x += Most) part(Part<Most>{}, x);
         storeEnd();
         return true;
     }

@@ -278,12 +278,18 @@ template <class T>
 PXL_INLINE Vec<T> Min(Vec<T> a, Vec<T> b) {
     if constexpr (std::is_same_v<T, uint8_t>) return fromInts<T>(PXL_VEC_OP(min_epu8)(ints(a), ints(b)));
     if constexpr (std::is_same_v<T, int16_t>) return fromInts<T>(PXL_VEC_OP(min_epi16)(ints(a), ints(b)));
+#ifndef __AVX2__
+    if constexpr (std::is_same_v<T, uint16_t>) return fromInts<T>(_mm_sub_epi16(ints(a), _mm_subs_epu16(ints(a), ints(b))));
+#endif
     return {a.raw < b.raw ? a.raw : b.raw};
 }
 template <class T>
 PXL_INLINE Vec<T> Max(Vec<T> a, Vec<T> b) {
     if constexpr (std::is_same_v<T, uint8_t>) return fromInts<T>(PXL_VEC_OP(max_epu8)(ints(a), ints(b)));
     if constexpr (std::is_same_v<T, int16_t>) return fromInts<T>(PXL_VEC_OP(max_epi16)(ints(a), ints(b)));
+#ifndef __AVX2__
+    if constexpr (std::is_same_v<T, uint16_t>) return fromInts<T>(_mm_add_epi16(_mm_subs_epu16(ints(a), ints(b)), ints(b)));
+#endif
     return {a.raw > b.raw ? a.raw : b.raw};
 }
 

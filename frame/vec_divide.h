@@ -1,7 +1,8 @@
 // Vector pieces of division: elements as floating-point numbers in lanes of that size, and back.
 //
-// A lane of a wider type holds several elements, its fields, the lowest first: field k of a vector is elements k, k + fields,
-// k + 2 * fields and so on. Elements become numbers and return field by field, without ever leaving their place.
+// A lane of a wider type holds several elements, its fields, the lowest first: field k of a vector is elements k, k +
+// fields, k + 2 * fields and so on. Elements become numbers and return field by field, without ever leaving their
+// place.
 #pragma once
 
 #include "frame/vec.h"
@@ -42,7 +43,7 @@ PXL_INLINE Vec<Real> Field(Vec<T> v) {
         const auto bits = FieldBits<uint64_t, K>(biased) | Set<uint64_t>(std::bit_cast<uint64_t>(unitsAtEnd));
         return BitCast<double>(bits) - Set<double>(unitsAtEnd + bias);
     } else if constexpr (std::is_signed_v<T>) {
-        const auto lifted = ShiftLeft<32 - fieldBits<T> * (K + 1)>(BitCast<int32_t>(v));
+        const auto lifted = ShiftLeft<32 - fieldBits<T>*(K + 1)>(BitCast<int32_t>(v));
         return ConvertToFloat(ShiftRight<32 - fieldBits<T>>(lifted));
     } else {
         return ConvertToFloat(BitCast<int32_t>(FieldBits<uint32_t, K>(v)));
@@ -53,7 +54,7 @@ PXL_INLINE Vec<Real> Field(Vec<T> v) {
 template <class T, class W, int Fields>
 PXL_INLINE Vec<T> JoinFields(const Vec<W> (&field)[Fields]) {
     static_assert(Fields == fieldsOf<T, W>);
-    Vec<W> all = ShiftLeft<fieldBits<T> * (Fields - 1)>(field[Fields - 1]);
+    Vec<W> all = ShiftLeft<fieldBits<T>*(Fields - 1)>(field[Fields - 1]);
     [&]<int... K>(std::integer_sequence<int, K...>) __attribute__((always_inline)) {
         ((all = all | ShiftLeft<fieldBits<T> * K>(field[K] & Set<W>(lowestField<T, W>))), ...);
     }

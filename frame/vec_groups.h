@@ -11,8 +11,7 @@ template <class T>
 inline constexpr int groupPixels = 4 / static_cast<int>(sizeof(T));
 inline constexpr int vecGroups = vecBytes / 16;
 
-// ---- memory
-// ----------------------------------------------------------------------------------------------------------------
+// ---- memory -------------------------------------------------------------------------------------------------------
 
 // The groups of four vectors from three vectors of dense pixels. The free bytes of a block are unspecified.
 template <class T>
@@ -49,7 +48,7 @@ PXL_INLINE Vec<uint32_t> joinWords(Vec<uint32_t> a, Vec<uint32_t> b) {
 }
 #endif
 
-// The reverse; the free bytes of every block are 0.
+// The reverse. The free bytes of every block must be 0.
 template <class Stores, class T>
 PXL_INLINE void StoreGroups3(Vec<T> v0, Vec<T> v1, Vec<T> v2, Vec<T> v3, T* p) {
     Vec<uint32_t> w0 = BitCast<uint32_t>(v0), w1 = BitCast<uint32_t>(v1), w2 = BitCast<uint32_t>(v2);
@@ -71,8 +70,7 @@ PXL_INLINE void StoreGroups3(Vec<T> v0, Vec<T> v1, Vec<T> v2, Vec<T> v3, T* p) {
     Stores::store(BitCast<T>(w2), p + 2 * lanes<T>);
 }
 
-// ---- changes of the number of elements
-// ---------------------------------------------------------------------------------------
+// ---- changes of the number of elements ----------------------------------------------------------------------------
 
 #ifdef __AVX2__
 

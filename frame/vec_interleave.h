@@ -16,8 +16,7 @@
 
 namespace pxl::PXL_TARGET {
 
-// ---- parts of a vector
-// -------------------------------------------------------------------------------------------------------
+// ---- parts of a vector --------------------------------------------------------------------------------------------
 
 // The first Bytes bytes of a block, zero behind them. Nothing else is read.
 template <int Bytes>
@@ -120,8 +119,7 @@ PXL_INLINE void storePixels(const Vec<T> (&v)[N], T* p) {
 #endif
 }
 
-// ---- lanes
-// -------------------------------------------------------------------------------------------------------------------
+// ---- lanes --------------------------------------------------------------------------------------------------------
 
 template <class T>
 inline constexpr int blockLanes = 16 / static_cast<int>(sizeof(T));
@@ -186,8 +184,7 @@ PXL_INLINE void blendChannel(Vec<T> (&v)[N], const Vec<T> (&from)[N]) {
     if constexpr (N == 4) v[3] = blendChannelOf<Channel, N, 3>(v[3], from[3]);
 }
 
-// ---- three elements
-// ------------------------------------------------------------------------------------------------------
+// ---- three elements -----------------------------------------------------------------------------------------------
 
 #ifdef __AVX2__
 
@@ -199,8 +196,7 @@ template <int Channel, class T>
 PXL_INLINE Vec<T> spreadLanes3(Vec<T> v) {
     return shuffleBlocks<[](int i) {
         int k = 0;
-        while ((3 * k + Channel) % blockLanes<T> != i)
-            ++k;
+        while ((3 * k + Channel) % blockLanes<T> != i) ++k;
         return k;
     }>(v);
 }
@@ -322,8 +318,7 @@ PXL_INLINE void deinterleave(Vec<T> (&v)[N]) {
 
 #endif
 
-// ---- four elements
-// -------------------------------------------------------------------------------------------------------------
+// ---- four elements ------------------------------------------------------------------------------------------------
 
 // Channels to pixels: the second elements behind the first and the fourth behind the third, then these pairs.
 template <class T>
@@ -373,8 +368,7 @@ PXL_INLINE void interleave(Vec<T> (&v)[3]) {
 
 #endif
 
-// ---- from memory and back
-// ------------------------------------------------------------------------------------------------------
+// ---- from memory and back -----------------------------------------------------------------------------------------
 
 template <class T, int Pixels = lanes<T>>
 PXL_INLINE void LoadInterleaved3(const T* p, Vec<T>& a, Vec<T>& b, Vec<T>& c) {
@@ -409,8 +403,7 @@ PXL_INLINE void StoreInterleaved4(Vec<T> a, Vec<T> b, Vec<T> c, Vec<T> d, T* p) 
     storePixels<Pixels>(v, p);
 }
 
-// ---- one channel
-// ---------------------------------------------------------------------------------------------------------------
+// ---- one channel --------------------------------------------------------------------------------------------------
 
 // One channel of N vectors of pixels.
 template <int Channel, int N, class T>

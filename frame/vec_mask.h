@@ -48,8 +48,7 @@ template <int E>
 struct PixelTable {
     alignas(vecBytes) uint8_t bytes[16 * E + vecBytes];
     constexpr PixelTable() : bytes{} {
-        for (int k = 0; k < 16 * E + vecBytes; ++k)
-            bytes[k] = static_cast<uint8_t>(k / E % 16);
+        for (int k = 0; k < 16 * E + vecBytes; ++k) bytes[k] = static_cast<uint8_t>(k / E % 16);
     }
 };
 template <int E>
@@ -110,8 +109,7 @@ struct SixPixelTable {
     uint8_t bytes[64][18];
     constexpr SixPixelTable() : bytes{} {
         for (int bits = 0; bits < 64; ++bits)
-            for (int k = 0; k < 18; ++k)
-                bytes[bits][k] = bits >> (k / 3) & 1 ? 0xFF : 0;
+            for (int k = 0; k < 18; ++k) bytes[bits][k] = bits >> (k / 3) & 1 ? 0xFF : 0;
     }
 };
 inline constexpr SixPixelTable sixPixelTable;
@@ -160,8 +158,7 @@ struct BlockMask {
     template <int j>
     PXL_INLINE static __m128i tripledWords(__m128i v) {
         if constexpr (j == 0) return _mm_shufflehi_epi16(_mm_shufflelo_epi16(_mm_shuffle_epi32(v, 0x44), 0x40), 0xA5);
-        if constexpr (j == 1)
-            return _mm_shufflehi_epi16(_mm_shufflelo_epi16(_mm_shuffle_epi32(v, 0xA5), 0x54 | 0), 0x40);
+        if constexpr (j == 1) return _mm_shufflehi_epi16(_mm_shufflelo_epi16(_mm_shuffle_epi32(v, 0xA5), 0x54), 0x40);
         if constexpr (j == 2) return _mm_shufflehi_epi16(_mm_shufflelo_epi16(_mm_shuffle_epi32(v, 0xFE), 0xA5), 0x54);
     }
     // 0 0 0 1 | 1 1 2 2 | 2 3 3 3
@@ -206,10 +203,7 @@ requires(E % 3 != 0) struct FewMask<E> {
 
     template <int Bytes>
     PXL_INLINE Piece piece(ptrdiff_t offset) const {
-        if constexpr (Bytes >= E)
-            return widenMask<E>(zeroBytes(loadPiece<Bytes / E>(m + offset / E)));
-        else
-            return Piece{}; // a piece holds a pixel
+        return widenMask<E>(zeroBytes(loadPiece<Bytes / E>(m + offset / E)));
     }
 };
 

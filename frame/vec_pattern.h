@@ -9,7 +9,8 @@ namespace pxl::PXL_TARGET {
 
 // ---- pieces of rows that are shorter than a register ----------------------------------------------------------------
 
-// 16, 8, 4, 2 or 1 bytes in the low end of 16.
+// 16 bytes and less, in the low end of a register and with zeros behind them: a power of two, or three times one, which
+// moves as two words.
 typedef __m128i Piece;
 
 template <class T>
@@ -21,20 +22,29 @@ PXL_INLINE T loadAs(const void* p) {
 
 template <int Bytes>
 PXL_INLINE Piece loadPiece(const void* p) {
-    if constexpr (Bytes == 16)
+    if constexpr (Bytes % 3 == 0) {
+        constexpr int first = Bytes / 3 * 2;
+        const Piece second = loadPiece<Bytes - first>(static_cast<const char*>(p) + first);
+        return _mm_or_si128(loadPiece<first>(p), _mm_slli_si128(second, first));
+    } else if constexpr (Bytes == 16) {
         return _mm_loadu_si128(static_cast<const __m128i*>(p));
-    else if constexpr (Bytes == 8)
+    } else if constexpr (Bytes == 8) {
         return _mm_loadl_epi64(static_cast<const __m128i*>(p));
-    else
+    } else {
         return _mm_cvtsi32_si128(static_cast<int>(loadAs<typename UnsignedOf<Bytes>::type>(p)));
+    }
 }
 template <int Bytes>
 PXL_INLINE void storePiece(Piece v, void* p) {
-    if constexpr (Bytes == 16)
-        return _mm_storeu_si128(static_cast<__m128i*>(p), v);
-    else if constexpr (Bytes == 8)
-        return _mm_storel_epi64(static_cast<__m128i*>(p), v);
-    else {
+    if constexpr (Bytes % 3 == 0) {
+        constexpr int first = Bytes / 3 * 2;
+        storePiece<first>(v, p);
+        storePiece<Bytes - first>(_mm_srli_si128(v, first), static_cast<char*>(p) + first);
+    } else if constexpr (Bytes == 16) {
+        _mm_storeu_si128(static_cast<__m128i*>(p), v);
+    } else if constexpr (Bytes == 8) {
+        _mm_storel_epi64(static_cast<__m128i*>(p), v);
+    } else {
         const auto few = static_cast<typename UnsignedOf<Bytes>::type>(_mm_cvtsi128_si32(v));
         std::memcpy(p, &few, sizeof few);
     }
@@ -54,7 +64,7 @@ PXL_INLINE Piece tailOf(__m256i v) {
 }
 #endif
 
-// Calls body with the largest size of a piece that a row of whole pixels holds, as a constant.
+// Calls body with the largest power of two, up to 16, that a row of whole pixels holds, as a constant.
 template <int E, class Body>
 PXL_INLINE void withPieceSize(ptrdiff_t bytes, Body&& body) {
     if (E >= 16 || bytes >= 16) return body(std::integral_constant<int, 16>{});
@@ -93,21 +103,6 @@ PXL_INLINE Pattern<E> loadPattern(const void* bytes) {
     return p;
 }
 
-// The E bytes of a pixel and zeros behind them.
-template <int E>
-PXL_INLINE __m128i pixelPiece(const void* pixel) {
-    const char* p = static_cast<const char*>(pixel);
-    if constexpr (E == 1) return _mm_cvtsi32_si128(loadAs<uint8_t>(p));
-    if constexpr (E == 2) return _mm_cvtsi32_si128(loadAs<uint16_t>(p));
-    if constexpr (E == 3) return _mm_cvtsi32_si128(loadAs<uint16_t>(p) | loadAs<uint8_t>(p + 2) << 16);
-    if constexpr (E == 4) return _mm_cvtsi32_si128(loadAs<int32_t>(p));
-    if constexpr (E == 6)
-        return _mm_cvtsi64_si128(loadAs<uint32_t>(p) | static_cast<int64_t>(loadAs<uint16_t>(p + 4)) << 32);
-    if constexpr (E == 8) return _mm_cvtsi64_si128(loadAs<int64_t>(p));
-    if constexpr (E == 12) return _mm_set_epi64x(loadAs<uint32_t>(p + 8), loadAs<int64_t>(p));
-    if constexpr (E == 16) return _mm_loadu_si128(reinterpret_cast<const __m128i*>(p));
-}
-
 #ifdef __AVX2__
 
 // Byte k of a pattern is byte k % E of the pixel.
@@ -115,15 +110,14 @@ template <int E>
 struct RepeatTable {
     alignas(vecBytes) uint8_t bytes[3 * vecBytes];
     constexpr RepeatTable() : bytes{} {
-        for (int k = 0; k < 3 * vecBytes; ++k)
-            bytes[k] = static_cast<uint8_t>(k % E);
+        for (int k = 0; k < 3 * vecBytes; ++k) bytes[k] = static_cast<uint8_t>(k % E);
     }
 };
 template <int E>
 inline constexpr RepeatTable<E> repeatTable;
 
 template <int E>
-PXL_INLINE Pattern<E> repeatPixel(__m128i pixel) {
+PXL_INLINE Pattern<E> repeatPixel(Piece pixel) {
     if constexpr (E == 1) return {{fromInts<uint8_t>(_mm256_broadcastb_epi8(pixel))}};
     if constexpr (E == 2) return {{fromInts<uint8_t>(_mm256_broadcastw_epi16(pixel))}};
     if constexpr (E == 4) return {{fromInts<uint8_t>(_mm256_broadcastd_epi32(pixel))}};
@@ -151,7 +145,7 @@ PXL_INLINE Pattern<E> repeatWords(uint64_t w0, uint64_t w1, uint64_t w2) {
 }
 
 template <int E>
-PXL_INLINE Pattern<E> repeatPixel(__m128i pixel) {
+PXL_INLINE Pattern<E> repeatPixel(Piece pixel) {
     if constexpr (E % 3 == 0) {
         const uint64_t low = static_cast<uint64_t>(_mm_cvtsi128_si64(pixel));
         const uint64_t high = static_cast<uint64_t>(_mm_cvtsi128_si64(_mm_unpackhi_epi64(pixel, pixel)));
@@ -171,7 +165,7 @@ PXL_INLINE Pattern<E> repeatPixel(__m128i pixel) {
 
 template <int E>
 PXL_INLINE Pattern<E> patternOf(const void* pixel) {
-    return repeatPixel<E>(pixelPiece<E>(pixel));
+    return repeatPixel<E>(loadPiece<E>(pixel));
 }
 
 // All ones in bytes From .. To - 1 of every pixel and zeros elsewhere.
@@ -179,8 +173,7 @@ template <int E, int From, int To>
 struct BytesOfPixel {
     alignas(vecBytes) uint8_t bytes[Pattern<E>::count * vecBytes];
     constexpr BytesOfPixel() : bytes{} {
-        for (int k = 0; k < Pattern<E>::count * vecBytes; ++k)
-            bytes[k] = k % E >= From && k % E < To ? 0xFF : 0;
+        for (int k = 0; k < Pattern<E>::count * vecBytes; ++k) bytes[k] = k % E >= From && k % E < To ? 0xFF : 0;
     }
 };
 template <int E, int From, int To>
@@ -193,28 +186,19 @@ PXL_INLINE Pattern<E> maskPattern() {
 
 // ---- AC4: pixels of which the fourth element is not processed -------------------------------------------------------
 
-// The three processed elements of a pixel of E bytes and zeros behind them; the fourth is not read.
+// Bytes of the three processed elements.
 template <int E>
-PXL_INLINE Piece loadColour(const void* pixel) {
-    constexpr int element = E / 4;
-    const Piece third = loadPiece<element>(static_cast<const char*>(pixel) + 2 * element);
-    return _mm_or_si128(loadPiece<2 * element>(pixel), _mm_slli_si128(third, 2 * element));
-}
-template <int E>
-PXL_INLINE void storeColour(Piece colour, void* pixel) {
-    constexpr int element = E / 4;
-    storePiece<2 * element>(colour, pixel);
-    storePiece<element>(_mm_srli_si128(colour, 2 * element), static_cast<char*>(pixel) + 2 * element);
-}
+inline constexpr int colourBytes = E / 4 * 3;
 
+// The three elements and a zero.
 template <int E>
 PXL_INLINE Pattern<E> colourPattern(const void* pixel) {
-    return repeatPixel<E>(loadColour<E>(pixel));
+    return repeatPixel<E>(loadPiece<colourBytes<E>>(pixel));
 }
 // All ones in fourth elements.
 template <int E>
 PXL_INLINE Pattern<E> alphaPattern() {
-    return maskPattern<E, E / 4 * 3, E>();
+    return maskPattern<E, colourBytes<E>, E>();
 }
 
 // ---- filling --------------------------------------------------------------------------------------------------------

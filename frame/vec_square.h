@@ -47,7 +47,8 @@ PXL_INLINE void TransposeSquare(Vec<T> (&v)[lanes<T>]) {
 PXL_INLINE Vec<int32_t> TruncateSumInDouble(Vec<float> v, Vec<double> added) {
 #ifdef __AVX2__
     const auto half = [&](__m128 f) { return _mm256_cvttpd_epi32(_mm256_add_pd(_mm256_cvtps_pd(f), added.raw)); };
-    return fromInts<int32_t>(_mm256_set_m128i(half(_mm256_extractf128_ps(v.raw, 1)), half(_mm256_castps256_ps128(v.raw))));
+    return fromInts<int32_t>(
+        _mm256_set_m128i(half(_mm256_extractf128_ps(v.raw, 1)), half(_mm256_castps256_ps128(v.raw))));
 #else
     const auto half = [&](__m128 f) { return _mm_cvttpd_epi32(_mm_add_pd(_mm_cvtps_pd(f), added.raw)); };
     return fromInts<int32_t>(_mm_unpacklo_epi64(half(v.raw), half(_mm_movehl_ps(v.raw, v.raw))));
@@ -82,7 +83,7 @@ PXL_INLINE void storeRows(__m128i v, char* d, ptrdiff_t step) {
         _mm_storeu_si128(reinterpret_cast<__m128i*>(d), v);
     } else if constexpr (RowBytes == 8) {
         _mm_storel_epi64(reinterpret_cast<__m128i*>(d), v);
-        _mm_storeh_pd(reinterpret_cast<double*>(d + step), _mm_castsi128_pd(v));
+        _mm_storeh_pi(reinterpret_cast<__m64*>(d + step), _mm_castsi128_ps(v));
     } else {
         alignas(16) int32_t rows[4];
         _mm_store_si128(reinterpret_cast<__m128i*>(rows), v);
@@ -93,7 +94,8 @@ PXL_INLINE void storeRows(__m128i v, char* d, ptrdiff_t step) {
 // Lanes are results of 8u, in 0..255, of 16-bit types, of which the lower half counts, or floats. The step is in bytes. The bits
 // of `flipped` are inverted in every element of integers.
 template <class T, class Lane>
-PXL_INLINE void StoreSquare(Vec<Lane> (&column)[lanes<Lane>], T* dst, ptrdiff_t step, [[maybe_unused]] Vec<Lane> flipped) {
+PXL_INLINE void StoreSquare(Vec<Lane> (&column)[lanes<Lane>], T* dst, ptrdiff_t step,
+                            [[maybe_unused]] Vec<Lane> flipped) {
     constexpr int side = lanes<Lane>, joined = sizeof(Lane) / sizeof(T), units = side / joined;
     char* d = reinterpret_cast<char*>(dst);
     if constexpr (joined == 1) {

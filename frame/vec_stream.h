@@ -3,7 +3,6 @@
 #pragma once
 
 #include "frame/vec.h"
-#include "frame/walk.h"
 
 namespace pxl::PXL_TARGET {
 
@@ -30,18 +29,6 @@ struct Streamed {
     }
     PXL_INLINE static void store(__m128i v, void* p) { _mm_stream_si128(static_cast<__m128i*>(p), v); }
 };
-
-template <class T>
-inline bool isAligned(const Operand<T>& o) {
-    return (reinterpret_cast<uintptr_t>(o.base) | static_cast<uintptr_t>(o.step)) % 32 == 0;
-}
-
-// Whether rows of the written operands may and should be streamed. Operands are disjoint where this is used.
-template <class... T>
-inline bool isStreamed(ptrdiff_t width, ptrdiff_t height, const Operand<T>&... o) {
-    const ptrdiff_t pixelBytes = (... + o.pixelBytes);
-    return pixelBytes * width * height >= streamedBytes && (... && (!Operand<T>::written || isAligned(o)));
-}
 
 // Orders streamed stores before whatever the caller does next.
 inline void finishStreamed(bool streamed) {

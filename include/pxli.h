@@ -2250,6 +2250,528 @@ PxlStatus pxliRShiftC_32s_C3IR(const uint32_t count[3], int32_t* srcDst, int src
 PxlStatus pxliRShiftC_32s_C4IR(const uint32_t count[4], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliRShiftC_32s_AC4IR(const uint32_t count[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 
+/* ==== Filters ========================================================================================================== */
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Filter (filter/filter.cpp)
+ *
+ * True convolution with a kernel of kernelSize coefficients in row-major order: with K[j][i] the coefficient in row j, column i,
+ * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j).
+ * src addresses the origin of the region; the caller supplies kernelSize.width - 1 - anchor.x columns left of it, anchor.x columns
+ * right of it, kernelSize.height - 1 - anchor.y rows above and anchor.y rows below. The anchor is not checked. AC4: elements 0..2.
+ * 8u: divisor 1 saturates the sum; a power of two rounds to nearest even in integers; any other divisor multiplies with its
+ * single-precision reciprocal and rounds to nearest even. 16s and 16u: the same, with a true division in double precision.
+ * The sum must fit 32 bits.
+ * 32f: products summed in single precision, neighbourhood rows from top to bottom, each from left to right.
+ * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
+ * not depend on the team.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernel width < 1, kernel height < 1; -51 divisor 0; -14
+ * srcStep below (width + kernel width - 1) pixels, dstStep below width pixels.
+ */
+PxlStatus pxliFilter_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor);
+PxlStatus pxliFilter_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor);
+PxlStatus pxliFilter_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor);
+PxlStatus pxliFilter_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor);
+PxlStatus pxliFilter_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor);
+PxlStatus pxliFilter_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor);
+PxlStatus pxliFilter_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor);
+PxlStatus pxliFilter_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor);
+PxlStatus pxliFilter_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor);
+PxlStatus pxliFilter_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor);
+PxlStatus pxliFilter_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor);
+PxlStatus pxliFilter_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor);
+PxlStatus pxliFilter_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+PxlStatus pxliFilter_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+PxlStatus pxliFilter_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+PxlStatus pxliFilter_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Filter, double precision (filter/filter_64f.cpp)
+ *
+ * True convolution with a kernel of kernelSize coefficients in row-major order: with K[j][i] the coefficient in row j, column i,
+ * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j).
+ * src addresses the origin of the region; the caller supplies kernelSize.width - 1 - anchor.x columns left of it, anchor.x columns
+ * right of it, kernelSize.height - 1 - anchor.y rows above and anchor.y rows below. The anchor is not checked. AC4: elements 0..2.
+ * Sums in double precision. buffer is not used and may be null.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernel width < 1, kernel height < 1; -14
+ * srcStep below (width + kernel width - 1) pixels, dstStep below width pixels.
+ */
+PxlStatus pxliFilter_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImageSize roiSize,
+    const double* kernel, ImageSize kernelSize, ImagePoint anchor, uint8_t* buffer);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * FilterGetBufSize (filter/filter_64f.cpp)
+ *
+ * The size of the buffer of pxliFilter_64f_C1R, which is 0.
+ * Statuses, in this order: -8 size is null; -6 a size < 1. *size is written on success only.
+ */
+PxlStatus pxliFilterGetBufSize_64f_C1R(ImageSize kernelSize, int roiWidth, int* size);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Filter32f (filter/filter_32f.cpp)
+ *
+ * True convolution with a kernel of kernelSize coefficients in row-major order: with K[j][i] the coefficient in row j, column i,
+ * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j).
+ * src addresses the origin of the region; the caller supplies kernelSize.width - 1 - anchor.x columns left of it, anchor.x columns
+ * right of it, kernelSize.height - 1 - anchor.y rows above and anchor.y rows below. The anchor is not checked. AC4: elements 0..2.
+ * Products are summed in single precision, neighbourhood rows from top to bottom, each from left to right; the sum is saturated
+ * and rounded to nearest even.
+ * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
+ * not depend on the team.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernel width < 1, kernel height < 1; -14
+ * srcStep below (width + kernel width - 1) pixels, dstStep below width pixels.
+ */
+PxlStatus pxliFilter32f_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+PxlStatus pxliFilter32f_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+PxlStatus pxliFilter32f_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+PxlStatus pxliFilter32f_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+PxlStatus pxliFilter32f_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+PxlStatus pxliFilter32f_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+PxlStatus pxliFilter32f_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+PxlStatus pxliFilter32f_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+PxlStatus pxliFilter32f_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+PxlStatus pxliFilter32f_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+PxlStatus pxliFilter32f_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+PxlStatus pxliFilter32f_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Filter_Round16s (filter/filter_round_int.cpp)
+ *
+ * True convolution with a kernel of kernelSize coefficients in row-major order: with K[j][i] the coefficient in row j, column i,
+ * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j).
+ * src addresses the origin of the region; the caller supplies kernelSize.width - 1 - anchor.x columns left of it, anchor.x columns
+ * right of it, kernelSize.height - 1 - anchor.y rows above and anchor.y rows below. The anchor is not checked. AC4: elements 0..2.
+ * The sum is multiplied with the single-precision reciprocal of divisor. The saturated value is rounded by roundMode: 0 toward zero, 1 to nearest even, 2 to nearest with ties away from zero. buffer is
+ * not used and may be null.
+ * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
+ * not depend on the team.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernel width < 1, kernel height < 1; -51 divisor 0; -14
+ * srcStep below (width + kernel width - 1) pixels, dstStep below width pixels; -213 roundMode not 0, 1 or 2.
+ */
+PxlStatus pxliFilter_Round16s_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
+    uint8_t* buffer);
+PxlStatus pxliFilter_Round16s_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
+    uint8_t* buffer);
+PxlStatus pxliFilter_Round16s_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
+    uint8_t* buffer);
+PxlStatus pxliFilter_Round16s_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
+    uint8_t* buffer);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Filter_Round32s (filter/filter_round_int.cpp)
+ *
+ * True convolution with a kernel of kernelSize coefficients in row-major order: with K[j][i] the coefficient in row j, column i,
+ * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j).
+ * src addresses the origin of the region; the caller supplies kernelSize.width - 1 - anchor.x columns left of it, anchor.x columns
+ * right of it, kernelSize.height - 1 - anchor.y rows above and anchor.y rows below. The anchor is not checked. AC4: elements 0..2.
+ * The sum is divided by divisor in double precision. The saturated value is rounded by roundMode: 0 toward zero, 1 to nearest even, 2 to nearest with ties away from zero. buffer is
+ * not used and may be null.
+ * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
+ * not depend on the team.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernel width < 1, kernel height < 1; -51 divisor 0; -14
+ * srcStep below (width + kernel width - 1) pixels, dstStep below width pixels; -213 roundMode not 0, 1 or 2.
+ */
+PxlStatus pxliFilter_Round32s_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
+    uint8_t* buffer);
+PxlStatus pxliFilter_Round32s_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
+    uint8_t* buffer);
+PxlStatus pxliFilter_Round32s_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
+    uint8_t* buffer);
+PxlStatus pxliFilter_Round32s_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
+    uint8_t* buffer);
+PxlStatus pxliFilter_Round32s_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
+    uint8_t* buffer);
+PxlStatus pxliFilter_Round32s_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
+    uint8_t* buffer);
+PxlStatus pxliFilter_Round32s_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
+    uint8_t* buffer);
+PxlStatus pxliFilter_Round32s_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
+    uint8_t* buffer);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * Filter_Round32f (filter/filter_round_32f.cpp)
+ *
+ * True convolution with a kernel of kernelSize coefficients in row-major order: with K[j][i] the coefficient in row j, column i,
+ * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j).
+ * src addresses the origin of the region; the caller supplies kernelSize.width - 1 - anchor.x columns left of it, anchor.x columns
+ * right of it, kernelSize.height - 1 - anchor.y rows above and anchor.y rows below. The anchor is not checked. AC4: elements 0..2.
+ * Single-precision products are summed in double precision; the sum is rounded to single precision. The saturated value is rounded by roundMode: 0 toward zero, 1 to nearest even, 2 to nearest with ties away from zero. buffer is
+ * not used and may be null.
+ * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
+ * not depend on the team.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernel width < 1, kernel height < 1; -14
+ * srcStep below (width + kernel width - 1) pixels, dstStep below width pixels; -213 roundMode not 0, 1 or 2.
+ */
+PxlStatus pxliFilter_Round32f_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* buffer);
+PxlStatus pxliFilter_Round32f_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* buffer);
+PxlStatus pxliFilter_Round32f_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* buffer);
+PxlStatus pxliFilter_Round32f_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* buffer);
+PxlStatus pxliFilter_Round32f_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* buffer);
+PxlStatus pxliFilter_Round32f_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* buffer);
+PxlStatus pxliFilter_Round32f_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* buffer);
+PxlStatus pxliFilter_Round32f_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* buffer);
+PxlStatus pxliFilter_Round32f_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* buffer);
+PxlStatus pxliFilter_Round32f_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* buffer);
+PxlStatus pxliFilter_Round32f_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* buffer);
+PxlStatus pxliFilter_Round32f_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* buffer);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * FilterRow (filter/filter_row.cpp)
+ *
+ * True convolution with one row of kernelSize coefficients: dst(x, y) = sum of K[i] * src(x + xAnchor - i, y).
+ * The caller supplies kernelSize - 1 - xAnchor columns left of the region and xAnchor right of it. AC4: elements 0..2.
+ * 8u: divisor 1 saturates the sum; a power of two rounds to nearest even in integers; any other divisor multiplies with its
+ * single-precision reciprocal and rounds to nearest even. 16s and 16u: the same, with a true division in double precision.
+ * The sum must fit 32 bits.
+ * 32f: products summed in single precision in the order of the pixels.
+ * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
+ * not depend on the team.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernelSize < 1; -51 divisor 0; -14 srcStep below (width +
+ * kernelSize - 1) pixels, dstStep below width pixels.
+ */
+PxlStatus pxliFilterRow_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int xAnchor, int divisor);
+PxlStatus pxliFilterRow_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int xAnchor, int divisor);
+PxlStatus pxliFilterRow_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int xAnchor, int divisor);
+PxlStatus pxliFilterRow_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int xAnchor, int divisor);
+PxlStatus pxliFilterRow_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int xAnchor, int divisor);
+PxlStatus pxliFilterRow_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int xAnchor, int divisor);
+PxlStatus pxliFilterRow_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int xAnchor, int divisor);
+PxlStatus pxliFilterRow_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int xAnchor, int divisor);
+PxlStatus pxliFilterRow_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int xAnchor, int divisor);
+PxlStatus pxliFilterRow_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int xAnchor, int divisor);
+PxlStatus pxliFilterRow_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int xAnchor, int divisor);
+PxlStatus pxliFilterRow_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int xAnchor, int divisor);
+PxlStatus pxliFilterRow_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+PxlStatus pxliFilterRow_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+PxlStatus pxliFilterRow_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+PxlStatus pxliFilterRow_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * FilterRow32f (filter/filter_row.cpp)
+ *
+ * True convolution with one row of kernelSize coefficients: dst(x, y) = sum of K[i] * src(x + xAnchor - i, y).
+ * The caller supplies kernelSize - 1 - xAnchor columns left of the region and xAnchor right of it. AC4: elements 0..2.
+ * Products are summed in single precision in the order of the pixels; the sum is saturated and rounded to nearest even.
+ * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
+ * not depend on the team.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernelSize < 1; -14 srcStep below (width +
+ * kernelSize - 1) pixels, dstStep below width pixels.
+ */
+PxlStatus pxliFilterRow32f_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+PxlStatus pxliFilterRow32f_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+PxlStatus pxliFilterRow32f_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+PxlStatus pxliFilterRow32f_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+PxlStatus pxliFilterRow32f_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+PxlStatus pxliFilterRow32f_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+PxlStatus pxliFilterRow32f_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+PxlStatus pxliFilterRow32f_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+PxlStatus pxliFilterRow32f_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+PxlStatus pxliFilterRow32f_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+PxlStatus pxliFilterRow32f_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+PxlStatus pxliFilterRow32f_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int xAnchor);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * FilterColumn (filter/filter_column.cpp)
+ *
+ * True convolution with one column of kernelSize coefficients: dst(x, y) = sum of K[j] * src(x, y + yAnchor - j).
+ * The caller supplies kernelSize - 1 - yAnchor rows above the region and yAnchor below it. AC4: elements 0..2.
+ * 8u: divisor 1 saturates the sum; a power of two rounds to nearest even in integers; any other divisor multiplies with its
+ * single-precision reciprocal and rounds to nearest even. 16s and 16u: the same, with a true division in double precision.
+ * The sum must fit 32 bits.
+ * 32f: products summed in single precision in the order of the pixels.
+ * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
+ * not depend on the team.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernelSize < 1; -51 divisor 0; -14 srcStep below width pixels, dstStep below width pixels.
+ */
+PxlStatus pxliFilterColumn_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int yAnchor, int divisor);
+PxlStatus pxliFilterColumn_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int yAnchor, int divisor);
+PxlStatus pxliFilterColumn_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int yAnchor, int divisor);
+PxlStatus pxliFilterColumn_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int yAnchor, int divisor);
+PxlStatus pxliFilterColumn_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int yAnchor, int divisor);
+PxlStatus pxliFilterColumn_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int yAnchor, int divisor);
+PxlStatus pxliFilterColumn_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int yAnchor, int divisor);
+PxlStatus pxliFilterColumn_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int yAnchor, int divisor);
+PxlStatus pxliFilterColumn_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int yAnchor, int divisor);
+PxlStatus pxliFilterColumn_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int yAnchor, int divisor);
+PxlStatus pxliFilterColumn_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int yAnchor, int divisor);
+PxlStatus pxliFilterColumn_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const int32_t* kernel, int kernelSize, int yAnchor, int divisor);
+PxlStatus pxliFilterColumn_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+PxlStatus pxliFilterColumn_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+PxlStatus pxliFilterColumn_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+PxlStatus pxliFilterColumn_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * FilterColumn32f (filter/filter_column.cpp)
+ *
+ * True convolution with one column of kernelSize coefficients: dst(x, y) = sum of K[j] * src(x, y + yAnchor - j).
+ * The caller supplies kernelSize - 1 - yAnchor rows above the region and yAnchor below it. AC4: elements 0..2.
+ * Products are summed in single precision in the order of the pixels; the sum is saturated and rounded to nearest even.
+ * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
+ * not depend on the team.
+ * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernelSize < 1; -14 srcStep below width pixels, dstStep below width pixels.
+ */
+PxlStatus pxliFilterColumn32f_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+PxlStatus pxliFilterColumn32f_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+PxlStatus pxliFilterColumn32f_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+PxlStatus pxliFilterColumn32f_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+PxlStatus pxliFilterColumn32f_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+PxlStatus pxliFilterColumn32f_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+PxlStatus pxliFilterColumn32f_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+PxlStatus pxliFilterColumn32f_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+PxlStatus pxliFilterColumn32f_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+PxlStatus pxliFilterColumn32f_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+PxlStatus pxliFilterColumn32f_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+PxlStatus pxliFilterColumn32f_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const float* kernel, int kernelSize, int yAnchor);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * FilterBox (filter/box.cpp)
+ *
+ * The mean of the maskSize window of every pixel: source pixels (x - anchor.x + i, y - anchor.y + j), 0 <= i < maskSize.width,
+ * 0 <= j < maskSize.height. The caller supplies the pixels around the region that the window reaches. Running sums: a pixel costs
+ * the same whatever the mask. In place (IR), the pixels around the region are read only. AC4: elements 0..2.
+ *   8u   mask area up to 8100: the truncated mean by multiplication and shift; above: trunc(float(S) * r + 9.0e-6f) with r the
+ *        single-precision reciprocal of the area
+ *   16s  of the sum S of samples + 32768: trunc(float(S) * r + 9.0e-6) - 32768
+ *   16u  trunc(double(float(S) * r) + 0.5000001)
+ *   32f  S * r with running sums in single precision
+ * Steps of 16- and 32-bit types count whole elements: what is over is dropped.
+ * Threads: 8u, 16s and 32f: blocks of rows over a team of threads_omp_of_n_pxl threads, out of place, for more than 4096 pixels (C4:
+ * always); 32f results may differ in the last bits between team sizes. 16u and the in-place forms run on the calling thread.
+ * Scratch: column sums of up to 16 rows; in place also the rows of results that wait for anchor.y rows below them.
+ * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1; -33 mask width or height < 1; -34 an anchor
+ * outside the mask; -9 no scratch memory.
+ */
+PxlStatus pxliFilterBox_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    ImageSize maskSize, ImagePoint anchor);
+PxlStatus pxliFilterBox_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_16s_C4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_16u_C4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+PxlStatus pxliFilterBox_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
+    ImagePoint anchor);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * SumWindowRow (filter/sum_window.cpp)
+ *
+ * The sum of the maskSize source samples (x - anchor + k, y), 0 <= k < maskSize, as single-precision running sums: each channel
+ * starts a row with the sum of its first window and adds the difference of the sample that enters and the one that leaves.
+ * Steps are not checked; those of 16-bit sources and of the destination count whole elements.
+ * Statuses, in this order: 16u: -8 a pointer is null; -6 width or height < 1; -33 maskSize < 1; -34 anchor outside 0..maskSize - 1.
+ * 8u and 16s: -8; -33; -34; a height < 1 then returns 0.
+ */
+PxlStatus pxliSumWindowRow_8u32f_C1R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_8u32f_C3R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_8u32f_C4R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_16s32f_C1R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_16s32f_C3R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_16s32f_C4R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_16u32f_C1R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_16u32f_C3R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowRow_16u32f_C4R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+
+/* --------------------------------------------------------------------------------------------------------------
+ * SumWindowColumn (filter/sum_window.cpp)
+ *
+ * The sum of the maskSize source samples (x, y - anchor + k), 0 <= k < maskSize, as single-precision running sums: each channel
+ * starts a column with the sum of its first window and adds the difference of the sample that enters and the one that leaves.
+ * Steps are not checked; those of 16-bit sources and of the destination count whole elements.
+ * Scratch: one row of sums.
+ * Statuses, in this order: 16u: -8 a pointer is null; -6 width or height < 1; -33 maskSize < 1; -34 anchor outside 0..maskSize - 1.
+ * 8u and 16s: -8; -33; -34; a height < 1 then returns 0, a width < 1 returns -9. 16s C3: -6 width or height < 1; -8;
+ * -33; -34. All: -9 no scratch memory.
+ */
+PxlStatus pxliSumWindowColumn_8u32f_C1R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_8u32f_C3R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_8u32f_C4R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_16s32f_C1R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_16s32f_C3R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_16s32f_C4R(const int16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_16u32f_C1R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_16u32f_C3R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+PxlStatus pxliSumWindowColumn_16u32f_C4R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    int maskSize, int anchor);
+
 #include "pxl_linkage.h"
 
 #endif

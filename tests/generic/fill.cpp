@@ -31,7 +31,7 @@ void fillCorners(uint8_t* bytes, size_t size, int elementSize, Random& random) {
 void fillImage(const Param& p, bool tame, uint8_t* bytes, size_t size, Random& random) {
     if (p.role == Role::Mask) return fillMask(bytes, size, random);
     const bool read = p.role == Role::Source || p.role == Role::InPlace;
-    if (p.type.starts_with("32f") && read && chance(random, 95))
+    if (p.type.starts_with("32f") && read && (tame || chance(random, 95)))
         return fillWords(bytes, size, [&] { return tame ? tameReal(random) : randomReal(random); });
     const bool complex = p.type.ends_with("c");
     if (read && chance(random, 50)) fillCorners(bytes, size, elementBytes(p.type) / (complex ? 2 : 1), random);

@@ -1,0 +1,212 @@
+// The box filter for all types and masks: squares of as many rows and columns as a vector has lanes.
+//
+// Going down, column sums of the window lie side by side, and a square of them is made from top to bottom: each row adds the
+// samples that enter and subtracts those that leave. Transposed, a vector holds one column of all rows, and the sums of the
+// windows run along with every row in a lane of its own: floats thus follow the same chain of additions row by row, on every
+// target. Results are transposed back where they are stored.
+#pragma once
+
+#include "filter/box_window.h"
+#include "frame/vec_square.h"
+
+namespace pxl::PXL_TARGET {
+
+// Column sums in lanes of type Sum: modulo 2^16 or 2^32, or floats.
+template <class T, class Sum>
+class BoxColumns {
+public:
+    static constexpr int side = squareSide<Sum>;
+
+    // `margin`: how far behind the results of a row the windows of its last square may reach; there the table has zeros.
+    BoxColumns(const BoxWindow<T>& window, ptrdiff_t margin) : w(window), tableColumns(w.outputs + margin + side) {}
+
+    // The table, and column sums for a whole number of vectors.
+    ptrdiff_t scratchBytes() const {
+        return (tableColumns * side + w.columns + side) * static_cast<ptrdiff_t>(sizeof(Sum));
+    }
+
+    // Gets scratch memory, and the column sums of row y.
+    void start(void* scratch, ptrdiff_t y) {
+        columnsOfRows = static_cast<Sum*>(scratch);
+        columnSums = columnsOfRows + tableColumns * side;
+        for (ptrdiff_t x = w.columns; x < tableColumns; ++x) StoreU(Zero<Sum>(), columnsOfRows + x * side);
+        ptrdiff_t x = 0;
+        for (; x + 4 * side <= w.columns; x += 4 * side) sumColumns<4>(y, x);
+        for (; x + side <= w.columns; x += side) sumColumns<1>(y, x);
+        if (x < w.columns) sumColumns<1>(y, lastSquare());
+    }
+
+    // Begins a group of rows from y on, of which the first `count` are followed by another.
+    void startGroup(ptrdiff_t y, int count) {
+        first = y;
+        updates = count;
+        ready = 0;
+        lastSums = LoadU(columnSums + lastSquare());
+    }
+
+    // Fills the table as far as `columns`, if the row has so many.
+    void makeReady(ptrdiff_t columns) {
+        if (columns > w.columns) columns = w.columns;
+        if (updates < side || w.columns < side) return makeReadySlowly(columns);
+        for (; ready < columns; ready += side) {
+            const ptrdiff_t x = ready < lastSquare() ? ready : lastSquare();
+            const T* leaving = w.row(first) + x;
+            const T* entering = leaving + w.height * w.step;
+            Vec<Sum> sums = sumsOfFirst(x), square[side];
+#pragma GCC unroll 16
+            for (int j = 0; j < side; ++j, leaving += w.step, entering += w.step) {
+                square[j] = sums;
+                sums = sums + (samples(entering) - samples(leaving));
+            }
+            finishSquare(x, square, sums);
+        }
+    }
+
+    // Column x of all rows of the group.
+    const Sum* table(ptrdiff_t x) const { return columnsOfRows + x * side; }
+
+private:
+    // Where columns are no multiple of a square, the last one overlaps the one before.
+    ptrdiff_t lastSquare() const { return w.columns < side ? 0 : w.columns - side; }
+    PXL_INLINE Vec<Sum> sumsOfFirst(ptrdiff_t x) const { return x < lastSquare() ? LoadU(columnSums + x) : lastSums; }
+
+    PXL_INLINE void finishSquare(ptrdiff_t x, Vec<Sum> (&square)[side], Vec<Sum> sums) {
+        StoreU(sums, columnSums + x);
+        TransposeSquare(square);
+#pragma GCC unroll 16
+        for (int i = 0; i < side; ++i) StoreU(square[i], columnsOfRows + (x + i) * side);
+    }
+
+    // The same for the last group, and where rows are shorter than a vector.
+    void makeReadySlowly(ptrdiff_t columns) {
+        for (; ready < columns; ready += side) {
+            const ptrdiff_t x = ready < lastSquare() ? ready : lastSquare();
+            const T* leaving = w.row(first) + x;
+            Vec<Sum> sums = sumsOfFirst(x), square[side];
+#pragma GCC unroll 1
+            for (int j = 0; j < side; ++j, leaving += w.step) {
+                square[j] = sums;
+                if (j < updates) sums = sums + (fewSamples(leaving + w.height * w.step) - fewSamples(leaving));
+            }
+            finishSquare(x, square, sums);
+        }
+    }
+
+    static PXL_INLINE Vec<Sum> samples(const T* p) {
+        if constexpr (std::is_same_v<T, Sum>)
+            return LoadU(p);
+        else
+            return LoadPromoteInt<Sum>(p);
+    }
+    // The same where rows may be shorter than a vector.
+    PXL_INLINE Vec<Sum> fewSamples(const T* p) const {
+        if (w.columns >= side) return samples(p);
+        if constexpr (std::is_same_v<T, Sum>)
+            return LoadFew<side>(p, w.columns);
+        else
+            return PromoteFirst<Sum>(LoadFew<side>(p, w.columns));
+    }
+
+    template <int Vectors>
+    void sumColumns(ptrdiff_t y, ptrdiff_t x) {
+        Vec<Sum> sum[Vectors];
+        for (auto& s : sum) s = Set<Sum>(static_cast<Sum>(boxBias<T> * static_cast<uint32_t>(w.height)));
+        const T* p = w.row(y) + x;
+        for (int j = 0; j < w.height; ++j, p += w.step)
+            for (int v = 0; v < Vectors; ++v) sum[v] = sum[v] + (Vectors > 1 ? samples(p + v * side) : fewSamples(p));
+        for (int v = 0; v < Vectors; ++v) StoreU(sum[v], columnSums + x + v * side);
+    }
+
+    BoxWindow<T> w;
+    ptrdiff_t tableColumns;
+    Sum* columnsOfRows = nullptr; // column by column
+    Sum* columnSums = nullptr;    // of the first row of the group, and of the next one where the table is ready
+    // The group under way.
+    ptrdiff_t first = 0, ready = 0;
+    int updates = 0;
+    Vec<Sum> lastSums{}; // column sums of the last square as the group began
+};
+
+// The filter with the means of one type and mask: a worker, which ownWithWorker of box.cpp chooses.
+template <class T, int Elements, class Mean>
+class BoxSquares {
+public:
+    using Sum = typename Mean::Sum;
+    static constexpr int side = squareSide<Sum>;
+    static constexpr int groupRows = side;
+
+    BoxSquares(const BoxWindow<T>& window, const Mean& mean)
+        : w(window), meanOf(mean), columns(window, window.width * Elements) {}
+
+    ptrdiff_t scratchBytes() const { return columns.scratchBytes(); }
+    void start(void* scratch, ptrdiff_t y) { columns.start(scratch, y); }
+
+    // Results of rows y ... y + rows - 1, at most groupRows.
+    void group(ptrdiff_t y, int rows, bool last, T* dst, ptrdiff_t dstStep) {
+        const ptrdiff_t reach = w.width * Elements;
+        columns.startGroup(y, last ? rows - 1 : rows);
+        columns.makeReady(strip + reach);
+        Vec<Sum> sum[Elements];
+        firstWindow(sum);
+        for (ptrdiff_t x = 0; x < w.outputs; x += strip) {
+            const ptrdiff_t n = w.outputs - x < strip ? w.outputs - x : strip;
+            alignas(vecBytes) T results[side * strip];
+            const bool direct = rows == side && n % side == 0 && !viaScratch(dstStep);
+            meansAlong(x, n, sum, direct ? dst + x : results, direct ? dstStep : strip);
+            columns.makeReady(x + 2 * strip + reach);
+            // The results are read back after that, since loads of what has just been stored in pieces have to wait.
+            for (int j = 0; j < rows && !direct; ++j)
+                copyKeeping(results + j * strip, dst + j * dstStep + x, n, w.keepAlpha);
+        }
+    }
+
+private:
+    static constexpr ptrdiff_t strip = 8 * side; // as far as one pass goes: its columns stay in the first-level cache
+
+    // Whether rows of results are put together before they are stored, in order to keep an alpha, or because more rows than a
+    // set of the cache has lines lie all in the same set, so that a visit for every square would load their lines again.
+    bool viaScratch(ptrdiff_t dstStep) const {
+        return w.keepAlpha || (side > 8 && dstStep * static_cast<ptrdiff_t>(sizeof(T)) % 4096 == 0);
+    }
+
+    void firstWindow(Vec<Sum> (&sum)[Elements]) const {
+        const Sum* p = columns.table(0);
+        for (auto& s : sum) s = LoadU(p), p += side;
+        for (ptrdiff_t i = 1; i < w.width; ++i)
+            for (auto& s : sum) s = s + LoadU(p), p += side;
+    }
+
+    // The means of n windows from x on, in whole squares; leaves the sums of the windows behind them.
+    void meansAlong(ptrdiff_t x, ptrdiff_t n, Vec<Sum> (&sums)[Elements], T* results, ptrdiff_t step) const {
+        Vec<Sum> sum[Elements], mean[side];
+        for (int c = 0; c < Elements; ++c) sum[c] = sums[c];
+        for (ptrdiff_t i = 0; i < n; i += side) {
+            meansOfSquare(columns.table(x + i), sum, mean);
+            constexpr Sum bias = static_cast<Sum>(boxBias<T> * 0x10001);
+            StoreSquare(mean, results + i, step * static_cast<ptrdiff_t>(sizeof(T)), Set<Sum>(bias));
+        }
+        for (int c = 0; c < Elements; ++c) sums[c] = sum[c];
+    }
+
+    PXL_INLINE void meansOfSquare(const Sum* leaving, Vec<Sum> (&sum)[Elements], Vec<Sum> (&mean)[side]) const {
+        const Sum* entering = leaving + w.width * Elements * side;
+#pragma GCC unroll 16
+        for (int i = 0; i < side; ++i) {
+            Vec<Sum>& s = sum[i % Elements];
+            mean[i] = meanOf(s);
+            s = s + LoadU(entering + i * side) - LoadU(leaving + i * side);
+        }
+        if constexpr (Elements == 3) { // the next element is of channel side % 3
+            const Vec<Sum> first = sum[0];
+            sum[0] = sum[side % 3];
+            sum[side % 3] = sum[2 * side % 3];
+            sum[2 * side % 3] = first;
+        }
+    }
+
+    BoxWindow<T> w;
+    Mean meanOf;
+    BoxColumns<T, Sum> columns;
+};
+
+} // namespace pxl::PXL_TARGET
