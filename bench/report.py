@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Runs pxl_bench and prints its pairs as Markdown tables, one per subject.
 
-    bench/report.py                                    all rows, build/bench/bench/pxl_bench
+    bench/report.py                                    all rows, build/release/bench/pxl_bench
     bench/report.py --filter 'copy_.*/640x480' --min-time 0.2
     bench/report.py --subject filter --subject box     the rows of these subjects, named as in TITLES
     bench/report.py --from results.json                tables of an earlier run
@@ -50,7 +50,7 @@ TITLES = {
 
 def arguments():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("binary", type=pathlib.Path, nargs="?", default=ROOT / "build/bench/bench/pxl_bench")
+    parser.add_argument("binary", type=pathlib.Path, nargs="?", default=ROOT / "build/release/bench/pxl_bench")
     rows = parser.add_mutually_exclusive_group()
     rows.add_argument("--filter", default="", help="regular expression on benchmark names (row/side/size)")
     rows.add_argument("--subject", action="append", default=[], metavar="NAME", help="rows of this subject only")

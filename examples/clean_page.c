@@ -19,7 +19,7 @@
 #include "picture.h"
 #include "sheet.h"
 
-enum { RADIUS = 50, RUNS = 15, STAGES = 8 };
+enum { RADIUS = 50, RUNS = 15, TILES = 7 };
 
 /* Paper divided by the light is 1; ink is about a quarter. The range that becomes black to white: */
 static const float BLACK = 0.35F, WHITE = 0.97F;
@@ -175,10 +175,10 @@ static void showDetail(Sheet* sheet, Picture gray, const char* title, const char
 }
 
 static void writeSheet(const Pages* p, const char* path) {
-    Sheet sheet = newSheet(STAGES);
+    Sheet sheet = newSheet(TILES);
     showGray(&sheet, p->gray.pixels, p->gray.step, p->gray.size, "the page", "green channel");
     showFloat(&sheet, p->light, 255, "its light", "pxliFilterBox_32f_C1R");
-    showFloat(&sheet, p->even, 1, "page / light", "pxliDiv_32f_C1R");
+    showFloat(&sheet, p->even, 1, "page over light", "pxliDiv_32f_C1R");
     showGray(&sheet, p->sharp.pixels, p->sharp.step, p->sharp.size, "cleaned", "pxliFilter_8u_C1R");
     showDetail(&sheet, p->gray, "the page, full size", "green channel");
     showDetail(&sheet, p->stretched, "stretched", "pxliScale_32f8u_C1R");
