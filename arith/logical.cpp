@@ -1,5 +1,5 @@
-// Bitwise operations between two images, or an image and one constant per channel. No value is interpreted, so rows are rows
-// of bytes. Checks come in the order pointers, steps, size; the two-image C3 and C4 members test the width before all of them.
+// Bitwise operations between two images, or an image and one constant per channel. Checks come in the order pointers, steps,
+// size; the two-image C3 and C4 members test the width before all of them.
 #include "arith/rows.h"
 #include "frame/checks.h"
 
@@ -25,27 +25,13 @@ struct Xor {
     }
 };
 
-template <class Op>
-void byteRow(ptrdiff_t bytes, const uint8_t* a, const uint8_t* b, uint8_t* d) {
-    binaryRow(bytes, a, b, d, Op{});
-}
-
-template <class Op, class T>
-void elementRow(ptrdiff_t n, const T* a, const T* b, T* d) {
-    byteRow<Op>(n * static_cast<ptrdiff_t>(sizeof(T)), reinterpret_cast<const uint8_t*>(a),
-                reinterpret_cast<const uint8_t*>(b), reinterpret_cast<uint8_t*>(d));
-}
-
 template <class T, int Elements, int Channels, class Op>
 PxlStatus Logical(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi) {
     if (Elements > 1 && Channels == Elements && roi.width < 1) return PXL_E_SIZE;
     if (anyNull(src1, src2, dst)) return PXL_E_NULL_PTR;
     if (anyStepBelow1(step1, step2, dstStep)) return PXL_E_STEP;
     if (isEmpty(roi)) return PXL_E_SIZE;
-    if constexpr (Channels == Elements)
-        walkElements(roi, Elements, elementRow<Op, T>, operand(src1, step1), operand(src2, step2), operand(dst, dstStep));
-    else
-        walkBinary<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi, Op{});
+    walkBinary<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi, Op{});
     return PXL_OK;
 }
 

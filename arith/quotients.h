@@ -21,8 +21,7 @@ PXL_INLINE Vec<Real> AtLeast(std::type_identity_t<Real> limit, Vec<Real> v) {
     return Max(Set<Real>(limit), v);
 }
 
-// Adding and subtracting 2^-n of the 2^(mantissa bits) that stand for the units rounds to multiples of 2^-n, ties to
-// even.
+// v rounded to what Real has in the neighbourhood of magnitude + v, ties to even.
 template <class Real>
 PXL_INLINE Vec<Real> RoundToGrid(Vec<Real> v, std::type_identity_t<Real> magnitude) {
     return (v + Set<Real>(magnitude)) - Set<Real>(magnitude);
@@ -56,22 +55,21 @@ struct RealQuotient {
 
 // ---- 8u -------------------------------------------------------------------------------------------------------------
 
-// y * f / x + 0.5 in single precision, truncated, ties to even: just what rounding to nearest gives. Up to 256, nothing
-// but a tie is so close to one (at most 1 / (2x) for f >= 1, 1 / (2y) of the quotient for f <= 1) that single
-// precision, with 2^-24 of it, would make it one or bring it to the other side.
+// y * f / x + 0.5 in single precision, truncated, a tie to even: that is rounding to nearest. Quotients up to 256 that
+// are no ties are at least 1 / (2x) away from one for f >= 1, and 1 / (2y) of the quotient for f <= 1; the rounding of
+// single precision, 2^-24 of the quotient, takes none of them there.
 struct RoundByte {
     PXL_INLINE Vec<uint32_t> operator()(Vec<float> q) const { return BitCast<uint32_t>(NearestInt(AtMost(255, q))); }
 };
 using ScaledByteQuotient = RealQuotient<uint8_t, float, RoundByte>;
 
-// The same for f = 1 with an approximate reciprocal, whose quotient is made exact by its remainder.
+// The same for f = 1, with an approximate reciprocal and the remainder to make the quotient exact.
 //
-// Reciprocals are 16 bits below the point, 64 / 65536 less than the approximation says so that that of 1 fits. With R /
-// 65536 in place of 1 / x the quotient q = y * R >> 16 is the largest integer that is not above y / x, or where that is
-// less than a half below y / x, perhaps the one below it: this holds as long as 65536 / x - 128 < R < 65536 / x * (1 +
-// 1 / 255), and the error of R is at most 24 / x + 0.5 upwards and 88.5 downwards. So y - q * x is less than 1.5 * x,
-// and q is one too small where it is more than x / 2, or x / 2 and q is odd. x = 0 has R = 0, so q = 0 becomes 1 for y
-// > 0.
+// R stands for 65536 / x, and q = y * R >> 16 for the quotient. With 65536 / x - 128 < R < 65536 / x * (1 + 1 / 255) no
+// q is above y / x, and all are less than 3/2 below it: y - q * x is less than 1.5 * x, and q is one too small where
+// that is more than x / 2, or x / 2 with an odd q. The approximation, rounded to 16 bits below the point, is off by
+// 24.5 / 65536 at most; 64 / 65536 are taken off so that the R of 1 fits into 16 bits. x = 0 has R = 0, which takes y >
+// 0 to 1.
 struct ByteQuotient {
     struct Divisor {
         Vec<uint8_t> x;
@@ -110,9 +108,8 @@ struct ByteQuotient {
 
 // ---- 16s ------------------------------------------------------------------------------------------------------------
 
-// q + 32768 + 0.5 in single precision, truncated, a tie to even, minus 32768. Its first addition rounds to what single
-// precision has at that place, a multiple of 2^-8 for q >= 0; what follows is exact enough to be rounding to nearest.
-// Quotients below the range saturate when they are packed, those above it have no integer to be packed.
+// q + 32768 + 0.5 in single precision, truncated, a tie to even, minus 32768. The first addition rounds to what single
+// precision has at that place, a multiple of 2^-8 for q >= 0; what is left to do then is rounding to nearest.
 struct RoundShort {
     PXL_INLINE Vec<uint32_t> operator()(Vec<float> q) const {
         const Vec<float> limited = AtLeast(-32768, AtMost(32767, q));
@@ -121,9 +118,11 @@ struct RoundShort {
 };
 using ScaledShortQuotient = RealQuotient<int16_t, float, RoundShort>;
 
+// scaleFactor 0: only -32768 / -1 is outside the range, and saturates when it is packed. In place of x = 0 stands
+// 2^-16, which makes the quotient 0 or takes it far enough.
 struct ShortQuotient {
     struct Divisor {
-        BlockNumbers x;
+        BlockNumbers number;
         Mask<int16_t> zero;
     };
 
@@ -134,20 +133,22 @@ struct ShortQuotient {
     PXL_INLINE Vec<int16_t> operator()(const Divisor& x, Vec<int16_t> y) const {
         const BlockNumbers dividend(y, Zero<uint16_t>());
         const auto round = [](Vec<float> q) { return NearestInt(q + Set<float>(32768)); };
-        const Vec<int32_t> lower = round(dividend.lower / x.x.lower), upper = round(dividend.upper / x.x.upper);
+        const Vec<int32_t> lower = round(dividend.lower / x.number.lower),
+                           upper = round(dividend.upper / x.number.upper);
         return BitCast<int16_t>(DemoteBlocks<uint16_t>(lower, upper) ^ Set<uint16_t>(0x8000));
     }
 };
 
 // ---- 16u ------------------------------------------------------------------------------------------------------------
 //
-// The quotient is truncated to 16 bits below the point and then rounded; from an odd integer, fractions from 0x7FFF /
-// 65536 go up, from an even one those from 0x8001 / 65536. So what is less than 2^-16 away from a tie is a tie, and
-// goes to even.
+// The quotient is truncated to 16 bits below the point and then rounded; from an odd integer fractions of 0x7FFF /
+// 65536 and more go up, from an even one those of 0x8001 / 65536 and more. So what is less than 2^-16 away from a tie
+// is one.
 
-// scaleFactor 0. Quotients of integers y / x are 1 / (2x) away from a tie if they are none. With x <= 32768 that is
-// 2^-16 or more, and rounding single-precision quotients to nearest is exact (1 / (2y) of a quotient against 2^-24).
-// Above, the quotient is less than 2 and two of them must be found: 1/2 + 1 / (2x) goes to 0, 3/2 - 1 / (2x) goes to 2.
+// scaleFactor 0. Quotients that are no ties are at least 1 / (2x) away from one, and 1 / (2y) of the quotient, so
+// rounding single-precision quotients to nearest is exact. Ties of x <= 32768 are just the true ones, too. For larger
+// x, which have quotients below 2, two others count as ties, both for odd x only: 1/2 + 1 / (2x), which goes to 0, and
+// 3/2 - 1 / (2x), which goes to 2.
 struct WordQuotient {
     struct Divisor {
         BlockNumbers number;
@@ -163,17 +164,18 @@ struct WordQuotient {
         const BlockNumbers dividend(y);
         const Vec<int32_t> lower = NearestInt(dividend.lower / x.number.lower);
         const Vec<int32_t> upper = NearestInt(dividend.upper / x.number.upper);
-        const Vec<uint16_t> beyond = SaturatedSub(y, x.half);
+        const Vec<uint16_t> beyond = SaturatedSub(y, x.half); // 1 and x at the two places
         const Vec<uint16_t> down = beyond == Set<uint16_t>(1), up = beyond == x.x;
         const Vec<uint16_t> quotients = DemoteBlocks<uint16_t>(lower, upper) + (x.close & (down - up));
         return quotients | AndNot(up, x.zero); // x = 0 has come to 0, and is `up` for y = 0
     }
 };
 
-// Other scale factors, in double precision: quotients are rounded to multiples of 2^-15, ties to even, which makes ties
-// of those less than 2^-16 away from one, and then to nearest. A quotient that is 2^-16 away from a tie with an odd
-// integer is one and above a tie with an even integer is none. Such occur for scaleFactor > 0 only; there the factor is
-// larger by 2^-36 of it, and so little that no other quotient (they are 2^-32 of it away from these) goes elsewhere.
+// Other scale factors, in double precision: quotients are rounded to multiples of 2^-15, ties to even, and then to
+// nearest. The first step makes ties of all that are less than 2^-16 away from one, and of those just 2^-16 away, which
+// is right below a tie with an odd integer and wrong above one with an even integer. Such quotients come with
+// scaleFactor > 0 only. There the factor is larger by 2^-36 of it, which moves them up, and is too little to take any
+// other quotient across: those are 2^-32 of it away from such a place.
 struct RoundWord {
     PXL_INLINE Vec<uint64_t> operator()(Vec<double> q) const {
         const Vec<double> snapped = RoundToGrid(AtMost(65535, q), unitsAtEnd / 32768);

@@ -9,6 +9,7 @@
 #include "frame/vec.h"
 #include "frame/vec_ends.h"
 #include "frame/vec_pattern.h"
+#include "frame/vec_stream.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
@@ -148,6 +149,7 @@ struct RowPlan {
     bool still;           // b is a ConstantRow
     const uint8_t* alpha; // AC4, else null
     ptrdiff_t endPhase;   // AC4, in bytes
+    size_t streamed = 0;  // bytes of an element where stores are to pass by the caches, else 0
 
     template <class L>
     PXL_INLINE ptrdiff_t endLane() const {
@@ -159,6 +161,8 @@ struct RowPlan {
         if (!still) return last;
         return alpha ? endLane<L>() : last % (3 * lanes<L>);
     }
+    // Whether whole elements lead from d to the next address at which vectors can be streamed.
+    PXL_INLINE bool streams(const void* d) const { return streamed && reinterpret_cast<uintptr_t>(d) % streamed == 0; }
 };
 
 // v, but what d holds in the fourth elements of AC4 pixels.
@@ -178,6 +182,23 @@ PXL_INLINE Vec<L> endOfRow(ptrdiff_t n, const L* a, const L* b, const L* d, cons
     const auto keep = reinterpret_cast<const MaskLane<L>*>(plan.alpha);
     return IfThenElse(whole ? LoadU(keep + plan.endLane<L>()) : LoadEnds(keep, n),
                       whole ? LoadU(d + last) : LoadEnds(d, n), result);
+}
+
+// The beginning of a row whose stores pass by the caches, as many whole vectors as come before `last`; returns where it
+// stops and moves b there. The first vector, of which the next may overlap a part, is stored as it stands.
+template <class L, class Op>
+PXL_INLINE ptrdiff_t streamRow(ptrdiff_t last, const L* a, const L*& b, bool still, L* d, const Op& op) {
+    constexpr ptrdiff_t step = lanes<L>, run = 3 * step;
+    StoreU(op(LoadU(a), LoadU(b)), d);
+    const auto head = static_cast<ptrdiff_t>(-reinterpret_cast<uintptr_t>(d) % vecBytes / sizeof(L));
+    ptrdiff_t x = head, o = head;
+    for (; x < last; x += step) {
+        Streamed::store(op(LoadU(a + x), LoadU(b + o)), d + x);
+        o += step;
+        if (still && o >= run) o -= run;
+    }
+    b += o;
+    return x;
 }
 
 // n lanes d[i] = op(a[i], b[i]); of AC4 pixels the lanes up to the last third element, and fourth elements are stored
@@ -203,12 +224,17 @@ void elementRow(ptrdiff_t n, const void* from, const void* with, void* to, const
             StoreU(keepAlpha(plan.alpha + (x & step) * sizeof(L), LoadU(d + x), result), d + x);
         }
     }
+    if (plan.streams(d)) x = streamRow(last, a, b, plan.still, d, op);
     const ptrdiff_t advance = plan.still ? 0 : run;
     for (; x + run <= last; x += run, b += advance) {
+        // The empty statements keep loads and stores in ascending order, which the caches reward.
         const Vec<L> first = op(LoadU(a + x), LoadU(b));
+        asm volatile("" ::"x"(first.raw));
         const Vec<L> second = op(LoadU(a + x + step), LoadU(b + step));
+        asm volatile("" ::"x"(second.raw));
         const Vec<L> third = op(LoadU(a + x + 2 * step), LoadU(b + 2 * step));
         StoreU(first, d + x);
+        asm volatile("" ::"x"(third.raw));
         StoreU(second, d + x + step);
         StoreU(third, d + x + 2 * step);
     }
@@ -220,11 +246,19 @@ using RowFunction = void (*)(ptrdiff_t n, const void* a, const void* b, void* d,
 
 // ---- the walk -------------------------------------------------------------------------------------------------------
 
+// The bytes of an element where the region is too large to stay in the caches, with all its images. In place, what is
+// stored has been read before, and AC4 rows are read too.
+inline size_t streamedElement(const Region& r, int images) {
+    const Layout& l = r.layout;
+    const ptrdiff_t bytes = l.elements * l.elementBytes * images * r.roi.width * r.roi.height;
+    return bytes < streamedBytes || l.alpha || r.dst == r.a || r.dst == r.b ? 0 : static_cast<size_t>(l.elementBytes);
+}
+
 // Walks rows of images. Channels alike are walked as elements, AC4 as pixels, which are done element by element where
 // the walker asks for single ones.
 [[gnu::noinline, gnu::flatten]] inline void walkImages(const Region& r, RowFunction row, const void* op) {
     const Layout& l = r.layout;
-    const RowPlan plan{op, false, l.alpha, l.endPhase}, plain{op, false, nullptr, 0};
+    const RowPlan plan{op, false, l.alpha, l.endPhase}, plain{op, false, nullptr, 0, streamedElement(r, 3)};
     const ptrdiff_t e = l.elementBytes, parts = l.parts;
     const auto elements = [=, &plain](ptrdiff_t n, const char* a, const char* b, char* d) {
         row(n * parts, a, b, d, plain);
@@ -242,6 +276,7 @@ using RowFunction = void (*)(ptrdiff_t n, const void* a, const void* b, void* d,
         walkRows(width, r.roi.height, pixels, a, b, d);
     else
         walkRows(width, r.roi.height, elements, a, b, d);
+    finishStreamed(plain.streamed);
 }
 
 // Walks rows of an image and constants by pixels, single ones element by element too.
@@ -249,7 +284,7 @@ using RowFunction = void (*)(ptrdiff_t n, const void* a, const void* b, void* d,
     const Layout& l = r.layout;
     const ptrdiff_t e = l.elementBytes, pixel = l.elements * e;
     const ptrdiff_t unit = l.elements * l.parts, skipped = (l.elements - l.channels) * l.parts; // lanes
-    const RowPlan plan{op, true, l.alpha, l.endPhase}, alike{op, false, nullptr, 0};
+    const RowPlan plan{op, true, l.alpha, l.endPhase, streamedElement(r, 2)}, alike{op, false, nullptr, 0};
     const auto kernel = [=, &r, &l, &plan, &alike](ptrdiff_t n, const char* s, char* d) {
         if (n > 1) return row(n * unit - skipped, s, r.constants, d, plan);
         const char* values = static_cast<const char*>(r.b);
@@ -257,6 +292,7 @@ using RowFunction = void (*)(ptrdiff_t n, const void* a, const void* b, void* d,
     };
     walkRows(r.roi.width, r.roi.height, kernel, Operand<const char>{static_cast<const char*>(r.a), r.aStep, pixel},
              Operand<char>{static_cast<char*>(r.dst), r.dstStep, pixel});
+    finishStreamed(plan.streamed);
 }
 
 // Fourth elements of n bytes of AC4 pixels stay, the others become 0.

@@ -16,12 +16,6 @@ PXL_INLINE LaneOf<T>* asLanes(T* p) {
     return reinterpret_cast<LaneOf<T>*>(p);
 }
 
-// d[i] = op(a[i], b[i])
-template <class L, class Op>
-inline void binaryRow(ptrdiff_t n, const L* a, const L* b, L* d, const Op& op) {
-    elementRow<L, Op>(n, a, b, d, RowPlan{&op, false, nullptr, 0});
-}
-
 // Walks dst = op(src1, src2) over a region. Channels alike are walked as elements; AC4 as pixels, and element by element
 // where the walker asks for single pixels.
 template <int Elements, int Channels, class T, class Op>

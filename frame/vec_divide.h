@@ -13,7 +13,7 @@ template <class T, class Wide>
 inline constexpr int fieldsOf = sizeof(Wide) / sizeof(T);
 
 template <class T>
-inline constexpr int fieldBits = 8 * sizeof(T);
+inline constexpr int bitsPerField = 8 * sizeof(T);
 
 // The lane of W whose lowest field is all ones.
 template <class T, class W>
@@ -23,7 +23,7 @@ inline constexpr W lowestField = static_cast<W>(MaskLane<T>(~MaskLane<T>{0}));
 template <class W, int K, class T>
 PXL_INLINE Vec<W> FieldBits(Vec<T> v) {
     Vec<W> bits = BitCast<W>(v);
-    if constexpr (K > 0) bits = ShiftRight<K * fieldBits<T>>(bits);
+    if constexpr (K > 0) bits = ShiftRight<K * bitsPerField<T>>(bits);
     if constexpr (K + 1 < fieldsOf<T, W>) bits = bits & Set<W>(lowestField<T, W>);
     return bits;
 }
@@ -31,20 +31,25 @@ PXL_INLINE Vec<W> FieldBits(Vec<T> v) {
 // The double whose mantissa ends with the units: added to a smaller integer, it leaves it in the lower bits of the sum.
 inline constexpr double unitsAtEnd = 4503599627370496.0; // 2^52
 
+// Field K, as unsigned numbers, less `bias`. Below 2^52, bits are a number as soon as those of 2^52 stand above them.
+template <int K, class U>
+PXL_INLINE Vec<double> BiasedField(Vec<U> v, double bias) {
+    static_assert(std::is_unsigned_v<U> && sizeof(U) < sizeof(double));
+    const auto bits = FieldBits<uint64_t, K>(v) | Set<uint64_t>(std::bit_cast<uint64_t>(unitsAtEnd));
+    return BitCast<double>(bits) - Set<double>(unitsAtEnd + bias);
+}
+
 // Field K as numbers, which are exact: float for elements of 8 and 16 bits, double for 16 and 32.
 template <class Real, int K, class T>
 PXL_INLINE Vec<Real> Field(Vec<T> v) {
     static_assert(sizeof(T) < sizeof(Real));
     if constexpr (std::is_same_v<Real, double>) {
-        // Below 2^52, with the sign made a bias, bits are a number as soon as those of 2^52 stand above them.
-        constexpr double bias = std::is_signed_v<T> ? static_cast<double>(uint64_t{1} << (fieldBits<T> - 1)) : 0;
         using U = MaskLane<T>;
-        const auto biased = BitCast<U>(v) ^ Set<U>(std::is_signed_v<T> ? U{1} << (fieldBits<T> - 1) : 0);
-        const auto bits = FieldBits<uint64_t, K>(biased) | Set<uint64_t>(std::bit_cast<uint64_t>(unitsAtEnd));
-        return BitCast<double>(bits) - Set<double>(unitsAtEnd + bias);
+        constexpr U bias = std::is_signed_v<T> ? U{1} << (bitsPerField<T> - 1) : 0;
+        return BiasedField<K>(BitCast<U>(v) ^ Set<U>(bias), bias);
     } else if constexpr (std::is_signed_v<T>) {
-        const auto lifted = ShiftLeft<32 - fieldBits<T>*(K + 1)>(BitCast<int32_t>(v));
-        return ConvertToFloat(ShiftRight<32 - fieldBits<T>>(lifted));
+        const auto lifted = ShiftLeft<32 - bitsPerField<T>*(K + 1)>(BitCast<int32_t>(v));
+        return ConvertToFloat(ShiftRight<32 - bitsPerField<T>>(lifted));
     } else {
         return ConvertToFloat(BitCast<int32_t>(FieldBits<uint32_t, K>(v)));
     }
@@ -54,9 +59,9 @@ PXL_INLINE Vec<Real> Field(Vec<T> v) {
 template <class T, class W, int Fields>
 PXL_INLINE Vec<T> JoinFields(const Vec<W> (&field)[Fields]) {
     static_assert(Fields == fieldsOf<T, W>);
-    Vec<W> all = ShiftLeft<fieldBits<T>*(Fields - 1)>(field[Fields - 1]);
+    Vec<W> all = ShiftLeft<bitsPerField<T>*(Fields - 1)>(field[Fields - 1]);
     [&]<int... K>(std::integer_sequence<int, K...>) __attribute__((always_inline)) {
-        ((all = all | ShiftLeft<fieldBits<T> * K>(field[K] & Set<W>(lowestField<T, W>))), ...);
+        ((all = all | ShiftLeft<bitsPerField<T> * K>(field[K] & Set<W>(lowestField<T, W>))), ...);
     }
     (std::make_integer_sequence<int, Fields - 1>{});
     return BitCast<T>(all);
