@@ -129,8 +129,8 @@ struct ConstantDivision {
 private:
     template <size_t... V>
     ConstantDivision(const Op& o, const Region& region, std::index_sequence<V...>)
-        : op(o), same(region.layout.elements == 1), divisors{o.prepare(
-                                                 LoadU(static_cast<const L*>(region.constants) + V * lanes<L>))...} {}
+        : op(o), same(region.layout.elements == 1), divisors{o.prepare(LoadU(static_cast<const L*>(region.constants) +
+                                                                             V * lanes<L>))...} {}
 };
 
 // The same with constants: a ConstantRow, or those of a row of one element. In AC4 rows they repeat after two vectors.

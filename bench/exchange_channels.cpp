@@ -14,8 +14,7 @@ void addSplit(const char* row, PxlStatus (*function)(const T*, int, T* const*, i
         row, {.src = {CV_MAKETYPE(depth, N)}, .dst = std::vector<int>(N, depth), .floor = Floor::Memcpy},
         [=](Frame& f) {
             T* planes[N];
-            for (size_t c = 0; c < N; ++c)
-                planes[c] = f.out<T>(c);
+            for (size_t c = 0; c < N; ++c) planes[c] = f.out<T>(c);
             return function(f.in<T>(), f.inStep(), planes, f.outStep(), f.size);
         },
         [](Frame& f) { cv::split(f.src[0], f.dst.data()); });
@@ -28,8 +27,7 @@ void addMerge(const char* row, PxlStatus (*function)(const T* const*, int, T*, i
         row, {.src = std::vector<int>(N, depth), .dst = {CV_MAKETYPE(depth, N)}, .floor = Floor::Memcpy},
         [=](Frame& f) {
             const T* planes[N];
-            for (size_t c = 0; c < N; ++c)
-                planes[c] = f.in<T>(c);
+            for (size_t c = 0; c < N; ++c) planes[c] = f.in<T>(c);
             return function(planes, f.inStep(), f.out<T>(), f.outStep(), f.size);
         },
         [](Frame& f) { cv::merge(f.src.data(), f.src.size(), f.dst[0]); });

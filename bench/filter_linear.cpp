@@ -32,8 +32,7 @@ Kernel kernel(ImageSize size, int divisor = 0) {
             k.integers.push_back(value < 7 ? value : -1);
         }
     if (!divisor) k.divisor = std::accumulate(k.integers.begin(), k.integers.end(), 0);
-    for (int value : k.integers)
-        k.quotients.push_back(static_cast<float>(value) / static_cast<float>(k.divisor));
+    for (int value : k.integers) k.quotients.push_back(static_cast<float>(value) / static_cast<float>(k.divisor));
     cv::flip(cv::Mat(size.height, size.width, CV_32FC1, k.quotients.data()), k.mirrored, -1);
     return k;
 }

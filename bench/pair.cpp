@@ -58,8 +58,7 @@ Shape destinationShape(const Operands& operands, Shape shape) {
 }
 
 void refill(std::vector<cv::Mat>& images) {
-    for (size_t i = 0; i < images.size(); ++i)
-        fillRandom(images[i], 1000 + i);
+    for (size_t i = 0; i < images.size(); ++i) fillRandom(images[i], 1000 + i);
 }
 
 bool same(const cv::Mat& a, const cv::Mat& b, double tolerance) {
@@ -121,8 +120,7 @@ Frame::Frame(const Operands& operands, Shape shape) : size{shape.width, shape.he
 int64_t Frame::bytes() const {
     size_t sum = mask.total();
     for (const auto* images : {&src, &dst})
-        for (const cv::Mat& image : *images)
-            sum += image.total() * image.elemSize();
+        for (const cv::Mat& image : *images) sum += image.total() * image.elemSize();
     return static_cast<int64_t>(sum);
 }
 

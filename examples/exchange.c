@@ -98,8 +98,7 @@ static void copyStage(Demo* demo) {
     const Picture photo = demo->photo;
     Picture copy = newRgb(photo.size);
     Line line = measure(demo, "the photo, copied", "pxliCopy_8u_C3R", photo.size, 6 * area(photo.size));
-    while (again(&line))
-        line.status = pxliCopy_8u_C3R(photo.pixels, photo.step, copy.pixels, copy.step, photo.size);
+    while (again(&line)) line.status = pxliCopy_8u_C3R(photo.pixels, photo.step, copy.pixels, copy.step, photo.size);
     requireSame(demo, copy, line.stage);
     show(demo, &line, copy);
     pxliFree(copy.pixels);
@@ -123,8 +122,7 @@ static void mergeStage(Demo* demo, const uint8_t* const planes[3], int planeStep
     const ImageSize size = demo->photo.size;
     Picture merged = newRgb(size);
     Line line = measure(demo, "planes merged", "pxliCopy_8u_P3C3R", size, 6 * area(size));
-    while (again(&line))
-        line.status = pxliCopy_8u_P3C3R(planes, planeStep, merged.pixels, merged.step, size);
+    while (again(&line)) line.status = pxliCopy_8u_P3C3R(planes, planeStep, merged.pixels, merged.step, size);
     requireSame(demo, merged, line.stage);
     show(demo, &line, merged);
     pxliFree(merged.pixels);
@@ -133,8 +131,7 @@ static void mergeStage(Demo* demo, const uint8_t* const planes[3], int planeStep
 static void grayStage(Demo* demo, Picture gray) {
     Picture rgb = newRgb(gray.size);
     Line line = measure(demo, "green as gray", "pxliDup_8u_C1C3R", gray.size, 4 * area(gray.size));
-    while (again(&line))
-        line.status = pxliDup_8u_C1C3R(gray.pixels, gray.step, rgb.pixels, rgb.step, gray.size);
+    while (again(&line)) line.status = pxliDup_8u_C1C3R(gray.pixels, gray.step, rgb.pixels, rgb.step, gray.size);
     show(demo, &line, rgb);
     pxliFree(rgb.pixels);
 }
@@ -143,8 +140,7 @@ static void planeStages(Demo* demo, Picture red, Picture green, Picture blue) {
     const Picture photo = demo->photo;
     uint8_t* const planes[3] = {red.pixels, green.pixels, blue.pixels};
     Line line = measure(demo, "split into planes", "pxliCopy_8u_C3P3R", photo.size, 6 * area(photo.size));
-    while (again(&line))
-        line.status = pxliCopy_8u_C3P3R(photo.pixels, photo.step, planes, red.step, photo.size);
+    while (again(&line)) line.status = pxliCopy_8u_C3P3R(photo.pixels, photo.step, planes, red.step, photo.size);
     planeStage(demo, red, 0, "red plane");
     planeStage(demo, green, 1, "green plane");
     planeStage(demo, blue, 2, "blue plane");
@@ -178,8 +174,7 @@ static void fourChannelStage(Demo* demo, Picture four) {
 static void dropAlphaStage(Demo* demo, Picture four) {
     Picture rgb = newRgb(four.size);
     Line line = measure(demo, "alpha dropped", "pxliCopy_8u_AC4C3R", four.size, 6 * area(four.size));
-    while (again(&line))
-        line.status = pxliCopy_8u_AC4C3R(four.pixels, four.step, rgb.pixels, rgb.step, four.size);
+    while (again(&line)) line.status = pxliCopy_8u_AC4C3R(four.pixels, four.step, rgb.pixels, rgb.step, four.size);
     requireSame(demo, rgb, line.stage);
     show(demo, &line, rgb);
     pxliFree(rgb.pixels);
@@ -277,8 +272,7 @@ static Picture fromFloatStage(Demo* demo, const float* floats, int floatStep, fl
     const ImageSize size = demo->photo.size;
     Picture rgb = newRgb(size);
     Line line = measure(demo, name, "pxliScale_32f8u_C3R", size, 15 * area(size));
-    while (again(&line))
-        line.status = pxliScale_32f8u_C3R(floats, floatStep, rgb.pixels, rgb.step, size, vMin, vMax);
+    while (again(&line)) line.status = pxliScale_32f8u_C3R(floats, floatStep, rgb.pixels, rgb.step, size, vMin, vMax);
     show(demo, &line, rgb);
     return rgb;
 }
@@ -313,8 +307,7 @@ static Picture detailOf(Picture rgb) {
 static void unpackStage(Demo* demo, const uint8_t* bits, int bitStep, Picture gray) {
     Picture rgb = newRgb(gray.size);
     Line line = measure(demo, "bits, full size", "pxliConvert_1u8u_C1R", gray.size, 1.125 * area(gray.size));
-    while (again(&line))
-        line.status = pxliConvert_1u8u_C1R(bits, bitStep, 0, gray.pixels, gray.step, gray.size);
+    while (again(&line)) line.status = pxliConvert_1u8u_C1R(bits, bitStep, 0, gray.pixels, gray.step, gray.size);
     require(pxliDup_8u_C1C3R(gray.pixels, gray.step, rgb.pixels, rgb.step, rgb.size), "pxliDup_8u_C1C3R");
     show(demo, &line, detailOf(rgb));
     pxliFree(rgb.pixels);
@@ -374,8 +367,7 @@ static void rectangleStage(Demo* demo) {
     require(pxliCopy_8u_C3R(photo.pixels, photo.step, covered.pixels, covered.step, photo.size), "pxliCopy_8u_C3R");
     uint8_t* corner = rgbAt(covered, photo.size.width / 3, photo.size.height / 8);
     Line line = measure(demo, "rectangle set", "pxliSet_8u_C3R", rectangle, 3 * area(rectangle));
-    while (again(&line))
-        line.status = pxliSet_8u_C3R(teal, corner, covered.step, rectangle);
+    while (again(&line)) line.status = pxliSet_8u_C3R(teal, corner, covered.step, rectangle);
     show(demo, &line, covered);
     pxliFree(covered.pixels);
 }

@@ -76,8 +76,7 @@ static uint8_t meanOf(Picture rgb, int x, int y, int channel, int factor) {
     const long count = (long)(right - x) * (bottom - y);
     long sum = count / 2;
     for (int row = y; row < bottom; ++row)
-        for (int column = x; column < right; ++column)
-            sum += rgbAt(rgb, column, row)[channel];
+        for (int column = x; column < right; ++column) sum += rgbAt(rgb, column, row)[channel];
     return (uint8_t)(sum / count);
 }
 
@@ -85,8 +84,7 @@ static Picture reduced(Picture rgb, int factor) {
     Picture small = newRgb((ImageSize){roundedUp(rgb.size.width, factor), roundedUp(rgb.size.height, factor)});
     for (int y = 0; y < small.size.height; ++y)
         for (int x = 0; x < small.size.width; ++x)
-            for (int c = 0; c < 3; ++c)
-                rgbAt(small, x, y)[c] = meanOf(rgb, x * factor, y * factor, c, factor);
+            for (int c = 0; c < 3; ++c) rgbAt(small, x, y)[c] = meanOf(rgb, x * factor, y * factor, c, factor);
     return small;
 }
 

@@ -45,15 +45,13 @@ PXL_INLINE void unpack64(uint64_t bits, uint8_t* d) {
 // n < 64; the last vector overlaps the one before it.
 PXL_INLINE void unpackFew(uint64_t bits, ptrdiff_t n, uint8_t* d) {
     if (n < vecBytes) return StoreN(unpackVector(bits), d, n);
-    for (ptrdiff_t x = 0; x + vecBytes < n; x += vecBytes)
-        StoreU(unpackVector(bits << x), d + x);
+    for (ptrdiff_t x = 0; x + vecBytes < n; x += vecBytes) StoreU(unpackVector(bits << x), d + x);
     StoreU(unpackVector(bits << (n - vecBytes)), d + n - vecBytes);
 }
 
 void unpackRow(ptrdiff_t n, const uint8_t* s, int bit, uint8_t* d) {
     if (n < 64) return unpackFew(loadFewBits(s, bit, n), n, d);
-    for (ptrdiff_t x = 0; x + 64 < n; x += 64)
-        unpack64(load64Bits(s + x / 8, bit), d + x);
+    for (ptrdiff_t x = 0; x + 64 < n; x += 64) unpack64(load64Bits(s + x / 8, bit), d + x);
     const ptrdiff_t last = bit + n - 64;
     unpack64(load64Bits(s + last / 8, static_cast<int>(last % 8)), d + n - 64);
 }
@@ -73,8 +71,7 @@ PxlStatus ownUnpackBits(const uint8_t* src, int srcStep, int srcBitOffset, uint8
         if (!read.meets(written)) {
             unpackRow(roi.width, s, bits.bit, d);
         } else {
-            for (ptrdiff_t x = 0; x < roi.width; ++x)
-                d[x] = unpackBit(s, bits.bit + x);
+            for (ptrdiff_t x = 0; x < roi.width; ++x) d[x] = unpackBit(s, bits.bit + x);
         }
     }
     return PXL_OK;
@@ -112,8 +109,7 @@ PxlStatus ownDitherToBits(const uint8_t* src, int srcStep, uint8_t* dst, int dst
             continue;
         }
         ditherBand(roi.width, pixels, y, rows, level, carried, streams);
-        for (int r = 0; r < rows; ++r)
-            copyBits(streams, r, bits.row(y + r), bits.bit, roi.width);
+        for (int r = 0; r < rows; ++r) copyBits(streams, r, bits.row(y + r), bits.bit, roi.width);
     }
     return PXL_OK;
 }

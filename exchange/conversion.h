@@ -72,10 +72,8 @@ template <bool Alpha, class Operation, class S, class D>
 PXL_INLINE ptrdiff_t convertUnits(const Operation& operation, ptrdiff_t n, const S* s, D* d) {
     constexpr int unit = unitOf<Operation>;
     ptrdiff_t x = 0;
-    for (; x + 4 * unit <= n; x += 4 * unit)
-        convertFourUnits<Alpha>(operation, s + x, d + x);
-    for (; x + unit <= n; x += unit)
-        convertOneUnit<Alpha>(operation, s + x, d + x);
+    for (; x + 4 * unit <= n; x += 4 * unit) convertFourUnits<Alpha>(operation, s + x, d + x);
+    for (; x + unit <= n; x += unit) convertOneUnit<Alpha>(operation, s + x, d + x);
     return x;
 }
 
@@ -105,13 +103,11 @@ template <class Operation, class S, class D>
 template <class Operation, class S, class D>
 PXL_INLINE void convertFewColours(const Operation& operation, ptrdiff_t pixels, const S* s, D* d) {
     if (pixels == 1) {
-        for (int c = 0; c < 3; ++c)
-            store1(d + c, FewResults(operation, 1, s + c).data[0]);
+        for (int c = 0; c < 3; ++c) store1(d + c, FewResults(operation, 1, s + c).data[0]);
         return;
     }
     const FewResults results(operation, 4 * pixels - 1, s);
-    for (ptrdiff_t x = 0; x < 4 * pixels; x += 4)
-        std::memcpy(d + x, results.data + x, 3 * sizeof(D));
+    for (ptrdiff_t x = 0; x < 4 * pixels; x += 4) std::memcpy(d + x, results.data + x, 3 * sizeof(D));
 }
 
 // Elements 0..2 of pixels of four. The fourth source element of the last pixel is not read: the last unit ends before

@@ -85,8 +85,7 @@ inline void copyBits(const Streams& streams, int row, uint8_t* d, int bit, ptrdi
         left -= first;
         ++d;
     }
-    for (; left >= 64; left -= 64, step += 64, d += 8)
-        store1(reinterpret_cast<uint64_t*>(d), streams.get64(row, step));
+    for (; left >= 64; left -= 64, step += 64, d += 8) store1(reinterpret_cast<uint64_t*>(d), streams.get64(row, step));
     for (; left > 0; left -= 8, step += 8, ++d)
         storeBits(d, streams.get(row, step), left < 8 ? ~(0xFFu >> left) : 0xFF);
 }
@@ -196,8 +195,7 @@ private:
 inline void ditherBand(ptrdiff_t width, const Operand<const uint8_t>& src, ptrdiff_t y, ptrdiff_t rowCount,
                        int32_t level, int32_t* carried, const Streams& streams) {
     const uint8_t* rows[bandRows];
-    for (ptrdiff_t r = 0; r < bandRows; ++r)
-        rows[r] = src.at(0, y + (r < rowCount ? r : rowCount - 1));
+    for (ptrdiff_t r = 0; r < bandRows; ++r) rows[r] = src.at(0, y + (r < rowCount ? r : rowCount - 1));
     Wavefront wavefront(level, width, carried);
     const ptrdiff_t end = Streams::blocks(width) * stepsAtOnce;
     for (ptrdiff_t t = 0; t < end; t += stepsAtOnce) {

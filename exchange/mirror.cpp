@@ -21,8 +21,7 @@ template <int Bytes, int Moved>
 struct MovedBytes {
     alignas(vecBytes) uint8_t mask[vecBytes];
     constexpr MovedBytes() : mask() {
-        for (int i = 0; i < vecBytes; ++i)
-            mask[i] = i % Bytes < Moved ? 0xFF : 0;
+        for (int i = 0; i < vecBytes; ++i) mask[i] = i % Bytes < Moved ? 0xFF : 0;
     }
 };
 
@@ -53,8 +52,7 @@ PXL_INLINE void byRegisters(uint8_t* d, ptrdiff_t bytes, Make&& make) {
         StoreU(make(x + 2 * vecBytes), d + x + 2 * vecBytes);
         StoreU(make(x + 3 * vecBytes), d + x + 3 * vecBytes);
     }
-    for (; x + vecBytes < bytes; x += vecBytes)
-        StoreU(make(x), d + x);
+    for (; x + vecBytes < bytes; x += vecBytes) StoreU(make(x), d + x);
     if (x < bytes) StoreU(last, d + bytes - vecBytes);
 }
 
@@ -91,8 +89,7 @@ PXL_INLINE void copyRowKeepingAlpha(const uint8_t* s, uint8_t* d, ptrdiff_t byte
     else if (last >= 16)
         byEnds(d, last, [=](ptrdiff_t x) { return keepingAlpha<Bytes, Moved>(loadWord<__m128i>(s + x), d + x); });
     else
-        for (ptrdiff_t x = 0; x < last; x += Bytes)
-            movePixel<Moved>(s + x, d + x);
+        for (ptrdiff_t x = 0; x < last; x += Bytes) movePixel<Moved>(s + x, d + x);
     movePixel<Moved>(s + last, d + last);
 }
 
@@ -108,8 +105,7 @@ PXL_INLINE void reverseRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
             return byEnds(d, bytes, [=](ptrdiff_t x) { return reverseBlocks<Bytes>(loadWord<__m128i>(end - 16 - x)); });
     if constexpr (Bytes < 8)
         if (bytes >= 8) return byEnds(d, bytes, [=](ptrdiff_t x) { return loadReversed8<Bytes>(end - 8 - x); });
-    for (ptrdiff_t x = 0; x < bytes; x += Bytes)
-        movePixel<Bytes>(end - Bytes - x, d + x);
+    for (ptrdiff_t x = 0; x < bytes; x += Bytes) movePixel<Bytes>(end - Bytes - x, d + x);
 }
 
 // The first pixel is moved by itself, since behind it in the source there may be nothing to load.
@@ -127,8 +123,7 @@ PXL_INLINE void reverseRowKeepingAlpha(const uint8_t* s, uint8_t* d, ptrdiff_t b
         return byEnds(d, bytes, [=](ptrdiff_t x) {
             return keepingAlpha<Bytes, Moved>(reverseBlocks<Bytes>(loadWord<__m128i>(end - 16 - x)), d + x);
         });
-    for (ptrdiff_t x = 0; x < bytes; x += Bytes)
-        movePixel<Moved>(end - Bytes - x, d + x);
+    for (ptrdiff_t x = 0; x < bytes; x += Bytes) movePixel<Moved>(end - Bytes - x, d + x);
 }
 
 // Pixels of 3, 6 and 12 bytes.
@@ -138,20 +133,16 @@ PXL_INLINE void reverseRowOfThrees(const uint8_t* s, uint8_t* d, ptrdiff_t bytes
     ptrdiff_t x = 0;
 #ifdef __AVX2__
     if (bytes >= 96) {
-        for (; x + 96 <= bytes; x += 96)
-            storeReversed96<Bytes>(end - x - 96, d + x);
+        for (; x + 96 <= bytes; x += 96) storeReversed96<Bytes>(end - x - 96, d + x);
         if (x < bytes) storeReversed96<Bytes>(s, d + bytes - 96);
         return;
     }
     if constexpr (Bytes < 12)
-        for (; x + 16 <= bytes; x += 16 / Bytes * Bytes)
-            storeReversed16<Bytes>(end - x - 16, d + x);
+        for (; x + 16 <= bytes; x += 16 / Bytes * Bytes) storeReversed16<Bytes>(end - x - 16, d + x);
 #endif
     constexpr ptrdiff_t word = sizeof(typename PixelWord<Bytes>::type);
-    for (; x + word <= bytes; x += Bytes)
-        storePixelWord<Bytes>(end - x - word, d + x);
-    for (; x < bytes; x += Bytes)
-        movePixel<Bytes>(end - x - Bytes, d + x);
+    for (; x + word <= bytes; x += Bytes) storePixelWord<Bytes>(end - x - word, d + x);
+    for (; x < bytes; x += Bytes) movePixel<Bytes>(end - x - Bytes, d + x);
 }
 
 // ---- regions --------------------------------------------------------------------------------------------------------
@@ -162,8 +153,7 @@ using MoveRows = void (*)(const uint8_t* s, ptrdiff_t srcStep, uint8_t* d, ptrdi
 
 template <void (*Row)(const uint8_t*, uint8_t*, ptrdiff_t)>
 void eachRow(const uint8_t* s, ptrdiff_t srcStep, uint8_t* d, ptrdiff_t dstStep, ptrdiff_t bytes, ptrdiff_t rows) {
-    for (ptrdiff_t y = 0; y < rows; ++y, s += srcStep, d += dstStep)
-        Row(s, d, bytes);
+    for (ptrdiff_t y = 0; y < rows; ++y, s += srcStep, d += dstStep) Row(s, d, bytes);
 }
 
 template <int Bytes, int Moved>
@@ -185,8 +175,7 @@ bool meet(const uint8_t* a, const uint8_t* b, ptrdiff_t bytes) {
 
 template <int Bytes, int Moved>
 void moveOverlapping(const uint8_t* s, uint8_t* d, ptrdiff_t width, bool reversed) {
-    for (ptrdiff_t x = 0; x < width; ++x)
-        movePixel<Moved>(s + (reversed ? width - 1 - x : x) * Bytes, d + x * Bytes);
+    for (ptrdiff_t x = 0; x < width; ++x) movePixel<Moved>(s + (reversed ? width - 1 - x : x) * Bytes, d + x * Bytes);
 }
 
 template <int Bytes, int Moved>
@@ -237,8 +226,7 @@ void mirrorInPlace(uint8_t* image, ptrdiff_t step, ImageSize roi, PxlAxis flip) 
     const ptrdiff_t half = roi.width / 2 * static_cast<ptrdiff_t>(Bytes);
     const auto reverseHalves = [=](uint8_t* row) { exchange(row, row + bytes - half, half, move, true); };
     if (flip == PXL_AXIS_VERTICAL) {
-        for (ptrdiff_t y = 0; y < roi.height; ++y, image += step)
-            reverseHalves(image);
+        for (ptrdiff_t y = 0; y < roi.height; ++y, image += step) reverseHalves(image);
         return;
     }
     uint8_t* other = image + (roi.height - 1) * step;

@@ -32,8 +32,7 @@ __attribute__((noinline)) void transposePixels(const uint8_t* src, ptrdiff_t src
     for (ptrdiff_t x = 0; x < width; ++x) {
         const uint8_t* s = src + x * Bytes;
         uint8_t* d = dst + x * dstStep;
-        for (ptrdiff_t y = 0; y < height; ++y, s += srcStep, d += Bytes)
-            movePixel<Bytes>(s, d);
+        for (ptrdiff_t y = 0; y < height; ++y, s += srcStep, d += Bytes) movePixel<Bytes>(s, d);
     }
 }
 
@@ -47,8 +46,7 @@ PXL_INLINE void coverByBlocks(const uint8_t* src, ptrdiff_t srcStep, uint8_t* ds
     };
     for (ptrdiff_t x = 0; x < width; x += Columns) {
         const ptrdiff_t left = x + Columns <= width ? x : width - Columns;
-        for (ptrdiff_t y = 0; y < height; y += Rows)
-            blockAt(left, y + Rows <= height ? y : height - Rows);
+        for (ptrdiff_t y = 0; y < height; y += Rows) blockAt(left, y + Rows <= height ? y : height - Rows);
     }
 }
 
@@ -122,8 +120,7 @@ inline constexpr ptrdiff_t linePixels = Bytes > 8 ? 8 : (Bytes % 3 ? 64 : 96) / 
 
 void fetchLines(const uint8_t* p, ptrdiff_t step, ptrdiff_t bytes, ptrdiff_t rows) {
     for (ptrdiff_t y = 0; y < rows; ++y, p += step)
-        for (ptrdiff_t x = 0; x < bytes; x += 64)
-            _mm_prefetch(reinterpret_cast<const char*>(p + x), _MM_HINT_T0);
+        for (ptrdiff_t x = 0; x < bytes; x += 64) _mm_prefetch(reinterpret_cast<const char*>(p + x), _MM_HINT_T0);
 }
 
 // The first pixel and the count of pixels of one tile along one side of a region.

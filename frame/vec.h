@@ -279,7 +279,8 @@ PXL_INLINE Vec<T> Min(Vec<T> a, Vec<T> b) {
     if constexpr (std::is_same_v<T, uint8_t>) return fromInts<T>(PXL_VEC_OP(min_epu8)(ints(a), ints(b)));
     if constexpr (std::is_same_v<T, int16_t>) return fromInts<T>(PXL_VEC_OP(min_epi16)(ints(a), ints(b)));
 #ifndef __AVX2__
-    if constexpr (std::is_same_v<T, uint16_t>) return fromInts<T>(_mm_sub_epi16(ints(a), _mm_subs_epu16(ints(a), ints(b))));
+    if constexpr (std::is_same_v<T, uint16_t>)
+        return fromInts<T>(_mm_sub_epi16(ints(a), _mm_subs_epu16(ints(a), ints(b))));
 #endif
     return {a.raw < b.raw ? a.raw : b.raw};
 }
@@ -288,7 +289,8 @@ PXL_INLINE Vec<T> Max(Vec<T> a, Vec<T> b) {
     if constexpr (std::is_same_v<T, uint8_t>) return fromInts<T>(PXL_VEC_OP(max_epu8)(ints(a), ints(b)));
     if constexpr (std::is_same_v<T, int16_t>) return fromInts<T>(PXL_VEC_OP(max_epi16)(ints(a), ints(b)));
 #ifndef __AVX2__
-    if constexpr (std::is_same_v<T, uint16_t>) return fromInts<T>(_mm_add_epi16(_mm_subs_epu16(ints(a), ints(b)), ints(b)));
+    if constexpr (std::is_same_v<T, uint16_t>)
+        return fromInts<T>(_mm_add_epi16(_mm_subs_epu16(ints(a), ints(b)), ints(b)));
 #endif
     return {a.raw > b.raw ? a.raw : b.raw};
 }
@@ -417,8 +419,7 @@ PXL_INLINE Vec<Narrow> Demote4(Vec<int32_t> a, Vec<int32_t> b, Vec<int32_t> c, V
 #ifdef __AVX2__
     const __m256i ab = _mm256_packs_epi32(ints(a), ints(b));
     const __m256i cd = _mm256_packs_epi32(ints(c), ints(d));
-    const __m256i packed =
-        std::is_same_v<Narrow, uint8_t> ? _mm256_packus_epi16(ab, cd) : _mm256_packs_epi16(ab, cd);
+    const __m256i packed = std::is_same_v<Narrow, uint8_t> ? _mm256_packus_epi16(ab, cd) : _mm256_packs_epi16(ab, cd);
     return fromInts<Narrow>(_mm256_permutevar8x32_epi32(packed, _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7)));
 #else
     return Demote2<Narrow>(Demote2<int16_t>(a, b), Demote2<int16_t>(c, d));

@@ -76,8 +76,7 @@ template <int Rows>
 PXL_INLINE void TransposeBytes(const uint8_t* const (&rows)[Rows], uint8_t (&columns)[16 * Rows]) {
     __m128i v[Rows], w[Rows];
 #pragma GCC unroll 8
-    for (int i = 0; i < Rows; ++i)
-        std::memcpy(&v[i], rows[i], sizeof v[i]);
+    for (int i = 0; i < Rows; ++i) std::memcpy(&v[i], rows[i], sizeof v[i]);
 #pragma GCC unroll 3
     for (int round = 1; round < Rows; round *= 2) {
 #pragma GCC unroll 4
@@ -86,12 +85,10 @@ PXL_INLINE void TransposeBytes(const uint8_t* const (&rows)[Rows], uint8_t (&col
             w[2 * i + 1] = _mm_unpackhi_epi8(v[i], v[i + Rows / 2]);
         }
 #pragma GCC unroll 8
-        for (int i = 0; i < Rows; ++i)
-            v[i] = w[i];
+        for (int i = 0; i < Rows; ++i) v[i] = w[i];
     }
 #pragma GCC unroll 8
-    for (int i = 0; i < Rows; ++i)
-        std::memcpy(columns + 16 * i, &v[i], sizeof v[i]);
+    for (int i = 0; i < Rows; ++i) std::memcpy(columns + 16 * i, &v[i], sizeof v[i]);
 }
 
 // The other way round for bits: byte 15 - i of the 16 bytes holds, in its bits 0 ... Rows - 1, column i of `Rows` rows.

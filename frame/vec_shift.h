@@ -111,7 +111,8 @@ struct UnsignedLaneShift<4, Left> {
 
     PXL_INLINE explicit UnsignedLaneShift(const uint32_t* counts) : count(LoadU(counts)) {}
     PXL_INLINE Vec<uint32_t> operator()(Vec<uint32_t> v) const {
-        return fromInts<uint32_t>(Left ? _mm256_sllv_epi32(ints(v), ints(count)) : _mm256_srlv_epi32(ints(v), ints(count)));
+        return fromInts<uint32_t>(Left ? _mm256_sllv_epi32(ints(v), ints(count))
+                                       : _mm256_srlv_epi32(ints(v), ints(count)));
     }
 #else
     __m128i count[4]; // of every lane, in the place where whole-register shifts look for it
@@ -120,7 +121,9 @@ struct UnsignedLaneShift<4, Left> {
         for (int i = 0; i < 4; ++i) count[i] = _mm_cvtsi32_si128(static_cast<int>(counts[i] > 31 ? 32 : counts[i]));
     }
     PXL_INLINE Vec<uint32_t> operator()(Vec<uint32_t> v) const {
-        const auto by = [&](int i) { return Left ? _mm_sll_epi32(ints(v), count[i]) : _mm_srl_epi32(ints(v), count[i]); };
+        const auto by = [&](int i) {
+            return Left ? _mm_sll_epi32(ints(v), count[i]) : _mm_srl_epi32(ints(v), count[i]);
+        };
         // lanes 0 and 2, and 1 and 3, of the four results
         const __m128i even = _mm_castpd_si128(_mm_move_sd(_mm_castsi128_pd(by(2)), _mm_castsi128_pd(by(0))));
         const __m128i odd = _mm_castpd_si128(_mm_move_sd(_mm_castsi128_pd(by(3)), _mm_castsi128_pd(by(1))));

@@ -49,8 +49,7 @@ PXL_INLINE void interleaveRows(Register (&r)[Rows]) {
             next[2 * i + 1] = interleaveUpper<Bytes>(r[i], r[i + Rows / 2]);
         }
 #pragma GCC unroll 16
-        for (int i = 0; i < Rows; ++i)
-            r[i] = next[i];
+        for (int i = 0; i < Rows; ++i) r[i] = next[i];
     }
 }
 
@@ -70,12 +69,10 @@ PXL_INLINE void transposeBlock(const uint8_t* s, ptrdiff_t srcStep, uint8_t* d, 
     constexpr int columns = 16 / Bytes;
     IntRegister r[columns];
 #pragma GCC unroll 16
-    for (int i = 0; i < columns; ++i)
-        r[i] = loadRows(s + i * srcStep, columns * srcStep);
+    for (int i = 0; i < columns; ++i) r[i] = loadRows(s + i * srcStep, columns * srcStep);
     interleaveRows<Bytes>(r);
 #pragma GCC unroll 16
-    for (int i = 0; i < columns; ++i)
-        StoreU(fromInts<uint8_t>(r[i]), d + i * dstStep);
+    for (int i = 0; i < columns; ++i) StoreU(fromInts<uint8_t>(r[i]), d + i * dstStep);
 }
 
 // 16 / Bytes rows and columns.
@@ -84,12 +81,10 @@ PXL_INLINE void transposeSquare16(const uint8_t* s, ptrdiff_t srcStep, uint8_t* 
     constexpr int side = 16 / Bytes;
     __m128i r[side];
 #pragma GCC unroll 16
-    for (int i = 0; i < side; ++i)
-        std::memcpy(&r[i], s + i * srcStep, 16);
+    for (int i = 0; i < side; ++i) std::memcpy(&r[i], s + i * srcStep, 16);
     interleaveRows<Bytes>(r);
 #pragma GCC unroll 16
-    for (int i = 0; i < side; ++i)
-        std::memcpy(d + i * dstStep, &r[i], 16);
+    for (int i = 0; i < side; ++i) std::memcpy(d + i * dstStep, &r[i], 16);
 }
 
 // 8 / Bytes rows and columns; every register ends up with two columns.
@@ -98,8 +93,7 @@ PXL_INLINE void transposeSquare8(const uint8_t* s, ptrdiff_t srcStep, uint8_t* d
     constexpr int side = 8 / Bytes;
     __m128i r[side];
 #pragma GCC unroll 8
-    for (int i = 0; i < side; ++i)
-        r[i] = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(s + i * srcStep));
+    for (int i = 0; i < side; ++i) r[i] = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(s + i * srcStep));
     interleaveRows<Bytes>(r);
 #pragma GCC unroll 4
     for (int i = 0; i < side / 2; ++i) {

@@ -1247,7 +1247,7 @@ PxlStatus pxliMul_32fc_AC4IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, i
  * dst = src2 / src1: the first source is the divisor. In place (I), srcDst is the dividend and the destination. AC4:
  * elements 0..2.
  *   8u   src2 * 2^-scaleFactor / src1 + 0.5 in single precision, truncated, a tie to even, saturated
- *   16s  the same quotient, rounded to nearest even, saturated
+ *   16s  the same quotient, with 32768 added in single precision rounded to nearest even, less 32768, saturated
  *   16u  integer division with 16 fractional bits, rounded to nearest; a tie of the truncated fraction goes to even
  *   32f  src2 / src1 in single precision
  * A divisor of 0 gives the saturated sign of the dividend (0 for 0); 32f: infinity with the dividend's sign, the NaN 0xFFC00000

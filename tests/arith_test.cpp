@@ -64,8 +64,7 @@ private:
         args[1].num = args[3].num = args[5].num = step;
         args[6].width = size_.width;
         args[6].height = 1;
-        for (size_t i = 0; i < own.size(); ++i)
-            args[7 + i].num = own[i];
+        for (size_t i = 0; i < own.size(); ++i) args[7 + i].num = own[i];
         const reference::Member member{"", family, type_, type_, "C1", "RSfs"};
         const int32_t status = reference::find(family)(member, args);
         for (const Target& target : availableTargets()) {
@@ -87,16 +86,14 @@ private:
 
 TEST(AllPairs, Of8u) {
     std::vector<uint8_t> values(256);
-    for (int i = 0; i < 256; ++i)
-        values[static_cast<size_t>(i)] = static_cast<uint8_t>(i);
+    for (int i = 0; i < 256; ++i) values[static_cast<size_t>(i)] = static_cast<uint8_t>(i);
     PairTest<uint8_t> pairs("8u", values);
     for (int scaleFactor = -17; scaleFactor <= 18; ++scaleFactor) {
         pairs.expectSame("Add", pxliAdd_8u_C1RSfs, scaleFactor);
         pairs.expectSame("Sub", pxliSub_8u_C1RSfs, scaleFactor);
         pairs.expectSame("Mul", pxliMul_8u_C1RSfs, scaleFactor);
         pairs.expectSame("Div", pxliDiv_8u_C1RSfs, scaleFactor);
-        for (int mode = 0; mode < 3; ++mode)
-            pairs.expectSame("Div_Round", pxliDiv_Round_8u_C1RSfs, mode, scaleFactor);
+        for (int mode = 0; mode < 3; ++mode) pairs.expectSame("Div_Round", pxliDiv_Round_8u_C1RSfs, mode, scaleFactor);
     }
 }
 
@@ -106,10 +103,8 @@ std::vector<T> corners() {
     std::vector<T> values;
     for (int bit = 0; bit <= 16; ++bit)
         for (int d = -2; d <= 2; ++d)
-            for (const int sign : {1, -1})
-                values.push_back(static_cast<T>(sign * (1 << bit) + d));
-    for (int v = 1; v < 60000; v = v * 5 / 3 + 7)
-        values.push_back(static_cast<T>(v));
+            for (const int sign : {1, -1}) values.push_back(static_cast<T>(sign * (1 << bit) + d));
+    for (int v = 1; v < 60000; v = v * 5 / 3 + 7) values.push_back(static_cast<T>(v));
     std::ranges::sort(values);
     const auto rest = std::ranges::unique(values);
     values.erase(rest.begin(), rest.end());
@@ -125,8 +120,7 @@ void checkCorners(const char* type, TwoSources<T> add, TwoSources<T> sub, TwoSou
         pairs.expectSame("Sub", sub, scaleFactor);
         pairs.expectSame("Mul", mul, scaleFactor);
         pairs.expectSame("Div", div, scaleFactor);
-        for (int mode = 0; mode < 3; ++mode)
-            pairs.expectSame("Div_Round", divRound, mode, scaleFactor);
+        for (int mode = 0; mode < 3; ++mode) pairs.expectSame("Div_Round", divRound, mode, scaleFactor);
     }
 }
 

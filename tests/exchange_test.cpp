@@ -22,8 +22,7 @@ class EveryTarget : public testing::TestWithParam<Target> {
 void expectAllValues(std::string_view name, std::string_view family, std::string_view src, std::string_view dst,
                      PxlStatus (*call)(const reference::Arg*), size_t dstBytes, int hint) {
     std::vector<uint16_t> values(65536);
-    for (size_t i = 0; i < values.size(); ++i)
-        values[i] = static_cast<uint16_t>(i);
+    for (size_t i = 0; i < values.size(); ++i) values[i] = static_cast<uint16_t>(i);
     std::vector<uint8_t> expected(values.size() * dstBytes), actual = expected;
     const reference::Member member{name, family, src, dst, "C1", "R"};
     reference::Arg args[6];
@@ -130,8 +129,7 @@ TEST_P(EveryTarget, DitheringKeepsTheMean) {
         std::fill(src.begin(), src.end(), static_cast<uint8_t>(gray));
         ASSERT_EQ(pxliConvert_8u1u_C1R(src.data(), side, dst.data(), side / 8, 0, {side, side}, 128), PXL_OK);
         int ones = 0;
-        for (const uint8_t byte : dst)
-            ones += __builtin_popcount(byte);
+        for (const uint8_t byte : dst) ones += __builtin_popcount(byte);
         EXPECT_NEAR(ones * 255.0 / (side * side), gray, 1.5);
     }
 }
@@ -141,14 +139,12 @@ TEST_P(EveryTarget, RowOffsetsAre64Bit) {
     const int step = 0x40000000;
     auto* memory = static_cast<uint8_t*>(std::calloc(size_t{3} * 0x40000000 + 64, 1));
     if (!memory) GTEST_SKIP() << "not enough address space";
-    for (int y = 0; y < 4; ++y)
-        memory[size_t{0x40000000} * static_cast<size_t>(y)] = static_cast<uint8_t>(y + 1);
+    for (int y = 0; y < 4; ++y) memory[size_t{0x40000000} * static_cast<size_t>(y)] = static_cast<uint8_t>(y + 1);
     uint8_t column[4] = {};
     EXPECT_EQ(pxliCopy_8u_C1R(memory, step, column, 1, {1, 4}), PXL_OK);
     EXPECT_EQ(pxliMirror_8u_C1IR(memory, step, {1, 4}, PXL_AXIS_HORIZONTAL), PXL_OK);
     EXPECT_EQ(memory[size_t{3} * 0x40000000], 1);
-    for (int y = 0; y < 4; ++y)
-        EXPECT_EQ(column[y], y + 1);
+    for (int y = 0; y < 4; ++y) EXPECT_EQ(column[y], y + 1);
     std::free(memory);
 }
 

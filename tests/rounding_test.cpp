@@ -66,8 +66,7 @@ void compare(const std::vector<S>& values, auto convert, auto expected) {
 template <class D>
 void checkRounding(auto convert) {
     std::vector<float> values = {nan, -nan, infinity, -infinity, 2147483648.0f, -2147483904.0f, 1e30f, -1e30f, 1e-40f};
-    for (int half = -140000; half <= 140000; ++half)
-        addNear(values, static_cast<float>(half) * 0.5f);
+    for (int half = -140000; half <= 140000; ++half) addNear(values, static_cast<float>(half) * 0.5f);
     for (const int mode : {0, 1, 2, 3, -1})
         compare<float, D>(
             values, [&](auto... args) { return convert(args..., mode); },

@@ -60,8 +60,7 @@ Builder::Builder(const Member& member, Random& random) : random_(random) {
     call_.nulls.resize(count, false);
     call_.reaches.resize(count);
     chooseSizes();
-    for (int i = 0; i < member.count; ++i)
-        chooseScalar(i);
+    for (int i = 0; i < member.count; ++i) chooseScalar(i);
     chooseSteps();
 }
 

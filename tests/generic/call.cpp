@@ -60,8 +60,7 @@ std::string Call::describe() const {
         else if (nulls[i])
             text << "null";
         else if (p.role == Role::Order)
-            for (int k = 0; k < p.count; ++k)
-                text << reinterpret_cast<const int32_t*>(arrays[i].data())[k] << " ";
+            for (int k = 0; k < p.count; ++k) text << reinterpret_cast<const int32_t*>(arrays[i].data())[k] << " ";
         else if (isImage(p.role)) {
             for (const Placed& image : images)
                 if (image.param == static_cast<int>(i))

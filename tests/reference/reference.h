@@ -12,11 +12,12 @@ namespace reference {
 
 // One C argument. Which member holds it follows from the prototype.
 struct Arg {
-    const void* ptr = nullptr; // images, arrays of plane pointers, value arrays, channel orders (destinations: cast away const)
-    int64_t num = 0;           // integers, enumerations and integer element values
-    double real = 0;           // 32f and 64f scalars
-    int32_t width = 0;         // ImageSize; the x of an ImagePoint
-    int32_t height = 0;        // ImageSize; the y of an ImagePoint
+    const void* ptr =
+        nullptr;       // images, arrays of plane pointers, value arrays, channel orders (destinations: cast away const)
+    int64_t num = 0;   // integers, enumerations and integer element values
+    double real = 0;   // 32f and 64f scalars
+    int32_t width = 0; // ImageSize; the x of an ImagePoint
+    int32_t height = 0; // ImageSize; the y of an ImagePoint
 };
 
 // The parts of an exported name: pxliConvert_8u32f_C3R is {family "Convert", src "8u", dst "32f", layout "C3", mode "R"};
@@ -26,8 +27,9 @@ struct Member {
     std::string_view family;
     std::string_view src;
     std::string_view dst;
-    std::string_view layout; // "C1", "C3", "AC4", "C3P3", "C3C4", "C3C" (the channel-of-interest copies: C3CR is layout "C3C", mode "R") ...
-    std::string_view mode;   // "R", "IR", "MR", "RSfs", "IRSfs"
+    std::string_view
+        layout; // "C1", "C3", "AC4", "C3P3", "C3C4", "C3C" (the channel-of-interest copies: C3CR is layout "C3C", mode "R") ...
+    std::string_view mode; // "R", "IR", "MR", "RSfs", "IRSfs"
 };
 
 using Function = int32_t (*)(const Member&, const Arg*);
