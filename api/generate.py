@@ -96,14 +96,18 @@ def all_members():
     return [m for _, _, families in registry.load() for f in families for m in f.members]
 
 
+def allocator_names():
+    return [m.name for m in all_members() if m.family == "Malloc"]
+
+
 def version_script(names):
     body = "\n".join(f"        {n};" for n in names)
-    return f"{{\n    global:\n{body}\n    local:\n        *;\n}};\n"
+    return f"PXLIMX_5.3 {{\n    global:\n{body}\n    local:\n        *;\n}};\n"
 
 
 def table_text():
-    """The table of tests/generic/member.h: every member with its parameters and a way to call it."""
-    lines = ["// Every exported member that works on regions, generated from the registry.",
+    """The tables of tests/generic/member.h: every member with its parameters and a way to call it, and the allocators."""
+    lines = ["// The exported functions, generated from the registry.",
              '#include "generic/member.h"', "", '#include "pxli.h"', "", "namespace generic {", "namespace {", ""]
     rows = []
     for m in all_members():
@@ -115,8 +119,10 @@ def table_text():
         lines.append(f"const Param params_{m.name}[] = {{{params}}};")
         rows.append(f'    {{{{"{m.name}", "{m.family}", "{m.src}", "{m.dst}", "{m.layout}", "{m.mode}"}}, '
                     f"params_{m.name}, {len(m.params)}, call_{m.name}}},")
-    lines += ["", "const Member table[] = {", *rows, "};", "} // namespace", "",
-              "std::span<const Member> members() { return table; }", "", "} // namespace generic", ""]
+    lines += ["", "const Member table[] = {", *rows, "};", "", "const Allocator allocatorTable[] = {",
+              *[f'    {{"{n}", [](int w, int h, int* s) -> void* {{ return {n}(w, h, s); }}}},' for n in allocator_names()],
+              "};", "} // namespace", "", "std::span<const Member> members() { return table; }",
+              "std::span<const Allocator> allocators() { return allocatorTable; }", "", "} // namespace generic", ""]
     return "\n".join(lines)
 
 

@@ -31,8 +31,8 @@ add_custom_command(
 add_custom_target(pxl_generate DEPENDS ${PXL_GENERATED}/stamp)
 
 # -ffp-contract=off and no fast-math: results are the same bits on every target. -fno-strict-aliasing: members that move bits
-# see the caller's elements as unsigned ones.
-set(PXL_CODE_FLAGS -ffp-contract=off -fno-math-errno -fno-strict-aliasing)
+# see the caller's elements as unsigned ones. Nothing here throws, so nothing of the C++ runtime is needed.
+set(PXL_CODE_FLAGS -ffp-contract=off -fno-math-errno -fno-strict-aliasing -fno-exceptions -fno-rtti)
 
 function(pxl_objects name)
     add_library(${name} OBJECT ${ARGN})
@@ -56,19 +56,24 @@ pxl_objects(pxl_common ${PXL_EXPORT_SOURCES} frame/memory.cpp frame/version.cpp 
 target_compile_definitions(pxl_common PRIVATE $<$<BOOL:${PXL_AVX2}>:PXL_WITH_AVX2>)
 
 add_library(pxlcore SHARED core/pxlcore.cpp)
+target_compile_definitions(pxlcore PRIVATE PXLCORE_BUILD)
+target_compile_options(pxlcore PRIVATE -fno-exceptions -fno-rtti)
 target_link_libraries(pxlcore PRIVATE pxl_flags OpenMP::OpenMP_CXX)
 
 add_library(pxlimx SHARED $<TARGET_OBJECTS:pxl_common> ${PXL_TARGET_OBJECTS})
-set_target_properties(pxlimx PROPERTIES OUTPUT_NAME pxlimx-5.3 LINK_DEPENDS ${PXL_GENERATED}/pxlimx.map)
+set_target_properties(pxlimx PROPERTIES OUTPUT_NAME pxlimx-5.3)
 target_link_libraries(pxlimx PRIVATE pxlcore OpenMP::OpenMP_CXX)
-target_link_options(pxlimx PRIVATE -Wl,--version-script=${PXL_GENERATED}/pxlimx.map -Wl,-z,defs)
 add_dependencies(pxlimx pxl_generate)
 
 foreach(library pxlcore pxlimx)
-    set_target_properties(${library} PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR} LINKER_LANGUAGE CXX
-                                                INSTALL_RPATH $ORIGIN)
-    # The run-time dependencies are the C library and OpenMP: what little of the C++ runtime is used comes along.
+    # The run-time dependencies are the C library and OpenMP.
+    set_target_properties(${library} PROPERTIES LINKER_LANGUAGE CXX)
     target_link_options(${library} PRIVATE -static-libstdc++ -static-libgcc)
     target_include_directories(${library} INTERFACE $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/include>
                                                     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
 endforeach()
+if(WIN32)
+    include(cmake/link_pe.cmake)
+else()
+    include(cmake/link_elf.cmake)
+endif()

@@ -156,8 +156,7 @@ std::string memberName(const testing::TestParamInfo<Member>& info) { return std:
 std::vector<Member> imageMembers() {
     std::vector<Member> members;
     for (const Member& m : generic::members())
-        if (std::ranges::any_of(m.parameters(), [](const generic::Param& p) { return isImage(p.role); }))
-            members.push_back(m);
+        if (worksOnImages(m)) members.push_back(m);
     return members;
 }
 

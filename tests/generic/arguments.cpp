@@ -314,7 +314,7 @@ void Builder::breakSize(int i) {
     if (which > 40) a.height = badSize();
     if (param(i).name == "dstSize" && chance(random_, 50)) {
         a = named("srcSize");
-        a.width += static_cast<int32_t>(named("borderLeft").num) - 1;
+        a.width = static_cast<int32_t>(a.width + named("borderLeft").num - 1); // may wrap
     }
 }
 

@@ -1,6 +1,8 @@
-// The table of all members that work on regions, generated from the registry, for tests that run over every export.
+// The tables of all members that work on regions and of the allocators, generated from the registry, for tests that run over
+// every export.
 #pragma once
 
+#include <algorithm>
 #include <span>
 
 #include "reference/reference.h"
@@ -53,9 +55,19 @@ struct Member : reference::Member {
 
 std::span<const Member> members();
 
+struct Allocator {
+    std::string_view name;
+    void* (*allocate)(int width, int height, int* stepBytes);
+};
+
+std::span<const Allocator> allocators();
+
 inline bool isImage(Role role) {
     return role == Role::Source || role == Role::Destination || role == Role::InPlace || role == Role::Inside ||
            role == Role::Mask;
+}
+inline bool worksOnImages(const Member& member) {
+    return std::ranges::any_of(member.parameters(), [](const Param& p) { return isImage(p.role); });
 }
 inline bool isWritten(Role role) { return role == Role::Destination || role == Role::InPlace || role == Role::Inside; }
 

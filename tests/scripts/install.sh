@@ -1,27 +1,30 @@
 #!/usr/bin/env bash
 # Installs the build, moves the installed tree, and builds a C program against it with CMake and with pkg-config.
-#   install.sh BUILD_DIR SOURCE_DIR
+#   install.sh BUILD_DIR SOURCE_DIR [TOOLCHAIN_FILE C_COMPILER RUNNER]     the last three for a cross-compiled build
 set -euo pipefail
-build=$1 source=$2
+build=$1 source=$2 toolchain=${3:-} cc=${4:-cc} runner=${5:-}
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 
 cmake --install "$build" --prefix "$work/first" >/dev/null
 mv "$work/first" "$work/moved"
 prefix=$work/moved
-lib=$(dirname "$(find "$prefix" -name 'libpxlimx-5.3.so')")
+package=$(find "$prefix" -name pxlimx.pc)
 
-cmake -S "$source/tests/consumer" -B "$work/cmake" -DCMAKE_PREFIX_PATH="$prefix" >/dev/null
+cmake -S "$source/tests/consumer" -B "$work/cmake" ${toolchain:+--toolchain "$toolchain"} \
+    -Dpxlimx_DIR="$(dirname "$(find "$prefix" -name pxlimx-config.cmake)")" >/dev/null
 cmake --build "$work/cmake" >/dev/null
-"$work/cmake/consumer"
 
-export PKG_CONFIG_PATH=$lib/pkgconfig
+mkdir "$work/pkg-config"
+export PKG_CONFIG_LIBDIR=${package%/*}
 # shellcheck disable=SC2046
-cc -std=c99 -Wall -Wextra -Werror "$source/tests/consumer/consumer.c" $(pkg-config --cflags --libs pxlimx) -o "$work/consumer"
-LD_LIBRARY_PATH=$lib "$work/consumer"
+"$cc" -std=c99 -Wall -Wextra -Werror "$source/tests/consumer/consumer.c" $(pkg-config --cflags --libs pxlimx) \
+    -o "$work/pkg-config/consumer"
 
-# Run-time dependencies: the C library and an OpenMP runtime, nothing else.
-for library in libpxlimx-5.3.so libpxlcore.so; do
-    others=$(objdump -p "$lib/$library" | awk '/NEEDED/ {print $2}' | grep -vE '^(libc|libm|libgomp|libpxlcore|ld-linux-x86-64)\.so' || true)
-    [ -z "$others" ] || { echo "$library needs $others"; exit 1; }
+for way in cmake pkg-config; do
+    if [ -n "$runner" ]; then
+        WINEPATH=$prefix/bin "$runner" "$work/$way/consumer.exe"
+    else
+        LD_LIBRARY_PATH=$(pkg-config --variable=libdir pxlimx) "$work/$way/consumer"
+    fi
 done
