@@ -1,6 +1,7 @@
 // Rows of pixels of E bytes, written where the mask element of a pixel is not 0.
 //
-// Chosen and unchosen bytes are blended and stored together, so unchosen ones are rewritten with the value they had.
+// Chosen and unchosen bytes of a block are blended and stored together, so unchosen ones beside chosen ones are rewritten with
+// the value they had. Where a block has no chosen pixel, nothing is stored.
 #pragma once
 
 #include "frame/vec.h"
@@ -68,18 +69,28 @@ PXL_INLINE void blendFew(ptrdiff_t n, const uint8_t* m, uint8_t* d, const Source
 template <int E, class Source, class... Always>
 PXL_INLINE void blendRow(ptrdiff_t n, const uint8_t* m, uint8_t* d, const Source& source, const Always&... always) {
     constexpr int block = BlockMask<E>::pixels;
-    ptrdiff_t x = 0;
-    for (; x + block <= n; x += block) {
-        const BlockMask<E> mask(m + x);
+    const auto blendBlock = [&](const BlockMask<E>& mask, ptrdiff_t x) __attribute__((always_inline)) {
         unrolled<block * E / vecBytes>([&](auto j) __attribute__((always_inline)) {
             uint8_t* to = d + x * E + j * vecBytes;
             const Vec<uint8_t> keep = (mask.template vector<j>() | ... | always.v[0]);
             StoreU(blend(keep, LoadU(to), source.vector(x * E, j)), to);
         });
+    };
+    ptrdiff_t x = 0;
+    for (; E < 8 && x + 2 * block <= n; x += 2 * block) { // small blocks: one branch for two of them
+        const BlockMask<E> first(m + x), second(m + x + block);
+        if (first.keepsAll() && second.keepsAll()) continue;
+        blendBlock(first, x);
+        blendBlock(second, x + block);
+    }
+    for (; x + block <= n; x += block) {
+        const BlockMask<E> mask(m + x);
+        if (!mask.keepsAll()) blendBlock(mask, x);
     }
     for (ptrdiff_t few; x < n; x += few) {
         few = n - x < 16 ? n - x : 16;
-        blendFew<E>(few, m + x, d + x * E, source.from(x * E), always...);
+        if (_mm_movemask_epi8(zeroBytes(loadFew16(m + x, few))) != 0xFFFF)
+            blendFew<E>(few, m + x, d + x * E, source.from(x * E), always...);
     }
 }
 

@@ -95,14 +95,18 @@ PxlStatus SumWindowRow(const T* src, int srcStep, float* dst, int dstStep, Image
     const PxlStatus status = ownCheckSum<T>(anyNull(src, dst), roi, maskSize, anchor);
     if (status != PXL_OK || isEmpty(roi)) return status;
     const ptrdiff_t s = wholeElements<T>(srcStep), d = wholeElements<float>(dstStep);
-    for (int y = 0; y < roi.height; y += squareSide<float>) {
+    // Steps are not checked: rows of results that overlap are written one after the other.
+    const ptrdiff_t width = ptrdiff_t{roi.width} * Elements;
+    const bool apart = d >= width || -d >= width;
+    const int together = apart ? squareSide<float> : 1;
+    for (int y = 0; y < roi.height; y += together) {
         SumRows<T, Elements> group{.src = src + y * s - ptrdiff_t{anchor} * Elements,
                                    .srcStep = s,
                                    .dst = dst + y * d,
                                    .dstStep = d,
-                                   .width = ptrdiff_t{roi.width} * Elements,
+                                   .width = width,
                                    .reach = ptrdiff_t{maskSize} * Elements};
-        group.run(roi.height - y < squareSide<float> ? roi.height - y : squareSide<float>);
+        group.run(roi.height - y < together ? roi.height - y : together);
     }
     return PXL_OK;
 }

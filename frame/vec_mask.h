@@ -70,6 +70,12 @@ struct BlockMask {
             keep[2] = keepOf16(m + 16);
         }
     }
+    // Whether all pixels keep their value.
+    PXL_INLINE bool keepsAll() const {
+        __m256i all = keep[0];
+        if constexpr (E == 3) all = _mm256_and_si256(_mm256_and_si256(all, keep[1]), keep[2]);
+        return _mm256_movemask_epi8(all) == -1;
+    }
     PXL_INLINE static __m256i keepOf16(const uint8_t* m) {
         return _mm256_cmpeq_epi8(_mm256_broadcastsi128_si256(loadPiece<16>(m)), _mm256_setzero_si256());
     }
@@ -131,6 +137,8 @@ struct BlockMask {
     PXL_INLINE explicit BlockMask(const uint8_t* m) : keep(zeroBytes(loadPiece<16>(m))) {}
     PXL_INLINE explicit BlockMask(__m128i m) : keep(zeroBytes(m)) {}
 
+    // Whether all pixels keep their value.
+    PXL_INLINE bool keepsAll() const { return _mm_movemask_epi8(keep) == 0xFFFF; }
     // Vector j of the block's bytes.
     template <int j>
     PXL_INLINE Vec<uint8_t> vector() const {

@@ -18,9 +18,12 @@
  * pointer addresses that channel of the first pixel. roiSize is the width and height in pixels of the region processed.
  *
  * Memory: a function reads and writes only the region described: no byte past the last element of a row and none between
- * rows. In AC4 and channel-of-interest destinations an element between the processed ones may be stored again with the value
- * it had. The fourth element of an AC4 source is never read. Rows are processed from first to last; where operands overlap in
- * memory the result is that of the plain loop over the elements of each row, from left to right.
+ * rows. In AC4, channel-of-interest and masked destinations an element that keeps its value may be stored again with the
+ * value it had: the fourth elements of AC4 pixels, elements between two of the chosen channel, pixels beside masked ones. The
+ * fourth element of an AC4 source is never read. Rows are processed from first to last. Where the operands of a pointwise
+ * function overlap in memory, the result is that of the plain loop over each row from left to right: element by element, or
+ * pixel by pixel where whole pixels are handled (masks, channel orders, AC4, borders). Filters, which read neighbours, have
+ * in-place forms; their sources and destinations must not overlap otherwise.
  *
  * Status: every function but the allocators and the version query returns a PxlStatus. Arguments are checked before anything
  * is read or written, in the order that each family states; after a negative status nothing has been written.

@@ -108,7 +108,7 @@ int64_t floatAt(const Call& call, const generic::Placed& image, int64_t at) {
     const reference::Arg& roi = call.args[static_cast<size_t>(call.member->find("roiSize"))];
     const int64_t rowBytes = int64_t{roi.width} * p.elements * generic::elementBytes(p.type);
     int64_t step = call.args[i + 1].num;
-    if (call.member->family == "FilterBox" || call.member->family.starts_with("SumWindow")) step -= step % 4;
+    if (call.member->family == "FilterBox" || call.member->family.starts_with("SumWindow")) step &= -4;
     for (int y = 0; y < roi.height; ++y) {
         const int64_t inside = at - image.position - y * step;
         if (inside >= 0 && inside < rowBytes) return at - inside % 4;

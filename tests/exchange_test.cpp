@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdlib>
+#include <cstring>
 #include <limits>
 #include <vector>
 
@@ -132,6 +133,61 @@ TEST_P(EveryTarget, DitheringKeepsTheMean) {
         for (const uint8_t byte : dst) ones += __builtin_popcount(byte);
         EXPECT_NEAR(ones * 255.0 / (side * side), gray, 1.5);
     }
+}
+
+// A destination in constant memory: a store would end the test.
+TEST_P(EveryTarget, MaskOfZerosWritesNothing) {
+    static const uint8_t constant[300] = {1, 2, 3};
+    const std::vector<uint8_t> src(300, 9), mask(100, 0);
+    uint8_t* dst = const_cast<uint8_t*>(constant);
+    for (int width = 1; width <= 100; ++width) {
+        EXPECT_EQ(pxliCopy_8u_C1MR(src.data(), 300, dst, 300, {width, 1}, mask.data(), 100), PXL_OK);
+        EXPECT_EQ(pxliCopy_8u_C3MR(src.data(), 300, dst, 300, {width, 1}, mask.data(), 100), PXL_OK);
+        EXPECT_EQ(pxliSet_8u_C3MR(src.data(), dst, 300, {width, 1}, mask.data(), 100), PXL_OK);
+    }
+}
+
+// Images too large for the caches are stored past them; row by row they are not.
+TEST_P(EveryTarget, LargeImagesEqualTheirRows) {
+    const ImageSize size{2731, 3000};
+    const int step = 8256;
+    std::vector<uint8_t> src(size_t{3000} * step), memory[2];
+    for (size_t i = 0; i < src.size(); ++i) src[i] = static_cast<uint8_t>(i * 2654435761u >> 13);
+    for (auto& m : memory) m.assign(size_t{6000} * step + 64, 0);
+    const auto aligned = [](std::vector<uint8_t>& m) {
+        return m.data() + (-reinterpret_cast<uintptr_t>(m.data()) & 31);
+    };
+    uint8_t *large = aligned(memory[0]), *rows = aligned(memory[1]);
+    const int reversed[3] = {2, 1, 0};
+    const auto compare = [&](const char* what, auto call) {
+        ASSERT_EQ(call(src.data(), large, size), PXL_OK) << what;
+        for (ptrdiff_t y = 0; y < size.height; ++y)
+            ASSERT_EQ(call(src.data() + y * step, rows + y * step, ImageSize{size.width, 1}), PXL_OK) << what;
+        EXPECT_EQ(std::memcmp(large, rows, size_t{6000} * step), 0) << what;
+    };
+    const ptrdiff_t plane = 2752; // beside each other in the rows of the destination
+    compare("copy", [&](auto* s, auto* d, auto roi) { return pxliCopy_8u_C3R(s, step, d, step, roi); });
+    compare("swap",
+            [&](auto* s, auto* d, auto roi) { return pxliSwapChannels_8u_C3R(s, step, d, step, roi, reversed); });
+    compare("split", [&](auto* s, auto* d, auto roi) {
+        uint8_t* planes[3] = {d, d + plane, d + 2 * plane};
+        return pxliCopy_8u_C3P3R(s, step, planes, step, roi);
+    });
+    compare("merge", [&](auto* s, auto* d, auto roi) {
+        const uint8_t* planes[3] = {s, s + plane, s + 2 * plane};
+        return pxliCopy_8u_P3C3R(planes, step, d, step, roi);
+    });
+    compare("add", [&](auto* s, auto* d, auto roi) { return pxliAdd_8u_C3RSfs(s, step, s, step, d, step, roi, 0); });
+}
+
+TEST_P(EveryTarget, LargeFillsPastTheCache) {
+    const int pixels = 16'100'000;
+    const uint8_t colour[3] = {7, 77, 177};
+    std::vector<uint8_t> image(size_t{pixels} * 3 + 2, 1);
+    ASSERT_EQ(pxliSet_8u_C3R(colour, image.data() + 1, 1, {pixels, 1}), PXL_OK);
+    for (size_t i = 0; i < size_t{pixels} * 3; ++i) ASSERT_EQ(image[i + 1], colour[i % 3]) << i;
+    EXPECT_EQ(image.front(), 1);
+    EXPECT_EQ(image.back(), 1);
 }
 
 // Regions whose row offsets pass 2^31: two rows, more than 2 GiB apart, of memory that is never touched in between.

@@ -56,7 +56,7 @@ Reach Builder::reachOf(int i) {
     const int64_t pixel = p.elements * elementBytes(p.type);
     int64_t step = arg(i + 1).num;
     const std::string_view family = call_.member->family;
-    if (family == "FilterBox" || family.starts_with("SumWindow")) step -= step % elementBytes(p.type);
+    if (family == "FilterBox" || family.starts_with("SumWindow")) step &= -elementBytes(p.type);
     if (p.role == Role::Inside && step < 0) return {0, 64};
     const int64_t first = area.y0 * step, last = (area.y1 - 1) * step;
     return {std::min(first, last) + area.x0 * pixel,
