@@ -170,7 +170,8 @@ PXL_INLINE void wordPairsBlock(const T* s, DestinationRow<T> d, ptrdiff_t x, con
 template <class T>
 [[gnu::noinline]] void wordPairsRow(ptrdiff_t n, const T* s, DestinationRow<T> d, const TapPairs& taps,
                                     const IntegerResult<T>& result) {
-    forEachBlockOfRow<wordBlock>(n, [&](ptrdiff_t x) { wordPairsBlock(s, d, x, taps, result); });
+    forEachBlockOfRow<wordBlock>(
+        n, [&](ptrdiff_t x) __attribute__((always_inline)) { wordPairsBlock(s, d, x, taps, result); });
 }
 
 // ---- bytes ----------------------------------------------------------------------------------------------------------
@@ -245,9 +246,11 @@ PXL_INLINE void bytePairsBlock(const uint8_t* s, DestinationRow<uint8_t> d, ptrd
                                            const TapPairs& taps, const ByteResult& result) {
     constexpr int step = lanes<uint8_t>;
     if (n < 2 * step)
-        forEachBlockOfRow<step>(n, [&](ptrdiff_t x) { bytePairsBlock<1>(s, d, x, taps, result); });
+        forEachBlockOfRow<step>(
+            n, [&](ptrdiff_t x) __attribute__((always_inline)) { bytePairsBlock<1>(s, d, x, taps, result); });
     else
-        forEachBlockOfRow<2 * step>(n, [&](ptrdiff_t x) { bytePairsBlock<2>(s, d, x, taps, result); });
+        forEachBlockOfRow<2 * step>(
+            n, [&](ptrdiff_t x) __attribute__((always_inline)) { bytePairsBlock<2>(s, d, x, taps, result); });
 }
 
 // ---- integer kernels ------------------------------------------------------------------------------------------------

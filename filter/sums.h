@@ -101,19 +101,26 @@ PXL_INLINE void addNeighbourhood(const Filtering<T, K>& f, const T* corner, type
     }
 }
 
-// One source row for two rows of sums: row j of the neighbourhoods of `lower`, row j - 1 of those below it.
+// One source vector per unit for two rows of sums, each with its factor.
+template <class Rule, int Units, class T>
+PXL_INLINE void addSharedTap(const T* p, Vec<typename Rule::Lane> factor, Vec<typename Rule::Lane> factorBelow,
+                             typename Rule::Sum (&sum)[Units], typename Rule::Sum (&below)[Units]) {
+    using Lane = typename Rule::Lane;
+#pragma GCC unroll 4
+    for (int u = 0; u < Units; ++u) {
+        const Vec<Lane> v = Held(loadLanes<Lane>(p + u * lanes<Lane>));
+        Rule::add(sum[u], v, factor);
+        Rule::add(below[u], v, factorBelow);
+    }
+}
+
+// One source row for two rows of sums: row j of the neighbourhoods of `sum`, row j - 1 of those below them.
 template <class Rule, int Units, class T, class K>
 PXL_INLINE void addSharedRow(const Filtering<T, K>& f, const T* p, const K* k, typename Rule::Sum (&sum)[Units],
                              typename Rule::Sum (&below)[Units]) {
     using Lane = typename Rule::Lane;
     for (int i = f.size.width; i > 0; --i) {
-        const Vec<Lane> factor = Set<Lane>(load1(k)), factorBelow = Set<Lane>(load1(k + f.size.width));
-#pragma GCC unroll 4
-        for (int u = 0; u < Units; ++u) {
-            const Vec<Lane> v = Held(loadLanes<Lane>(p + u * lanes<Lane>));
-            Rule::add(sum[u], v, factor);
-            Rule::add(below[u], v, factorBelow);
-        }
+        addSharedTap<Rule>(p, Set<Lane>(load1(k)), Set<Lane>(load1(k + f.size.width)), sum, below);
         p += f.elements;
         --k;
     }
@@ -133,6 +140,27 @@ PXL_INLINE void addTwoNeighbourhoods(const Filtering<T, K>& f, const T* corner, 
         addSharedRow<Rule>(f, corner, k, sum, below);
     }
     addKernelRow<Rule>(f, corner, k, below, load);
+}
+
+// The same for kernels of one column: no loop over the taps of a row, and every factor is loaded once.
+template <class Rule, int Units, class T, class K>
+PXL_INLINE void addTwoColumns(const Filtering<T, K>& f, const T* corner, typename Rule::Sum (&sum)[Units],
+                              typename Rule::Sum (&below)[Units]) {
+    using Lane = typename Rule::Lane;
+    const auto addTap = [](const T* p, Vec<Lane> factor, typename Rule::Sum(&sums)[Units]) {
+#pragma GCC unroll 4
+        for (int u = 0; u < Units; ++u) Rule::add(sums[u], loadLanes<Lane>(p + u * lanes<Lane>), factor);
+    };
+    const K* k = f.lastCoefficient();
+    Vec<Lane> factor = Set<Lane>(load1(k));
+    addTap(corner, factor, sum);
+    for (int j = f.size.height; j > 1; --j) {
+        corner = byBytes(corner, f.srcStep);
+        const Vec<Lane> factorBelow = factor;
+        factor = Set<Lane>(load1(--k));
+        addSharedTap<Rule>(corner, factor, factorBelow, sum, below);
+    }
+    addTap(byBytes(corner, f.srcStep), factor, below);
 }
 
 // Stores Units vectors of saturated results at x.
@@ -169,9 +197,11 @@ public:
         constexpr int units = Rule::unitsOfTwoRows;
         if constexpr (units > 0)
             if (n_ >= units * unit && f_.size.height > 1)
-                for (; rows >= 2; rows -= 2, first += 2)
-                    twoRows(byBytes(f_.src, first * f_.srcStep), f_.destinationRow(first),
-                            f_.destinationRow(first + 1));
+                for (; rows >= 2; rows -= 2, first += 2) {
+                    const auto two = f_.size.width == 1 ? &SumRows::twoRows<true> : &SumRows::twoRows<false>;
+                    (this->*two)(byBytes(f_.src, first * f_.srcStep), f_.destinationRow(first),
+                                 f_.destinationRow(first + 1));
+                }
         forEachRow(f_, first, rows, [this](const T* pixel, Row d) { oneRow(pixel, d); });
     }
 
@@ -182,21 +212,28 @@ private:
         if (n_ < unit) return few(s, d);
         const Kernel f = f_;
         if (n_ < 4 * unit)
-            forEachBlockOfRow<unit>(n_, [&](ptrdiff_t x) { block<1>(f, s, d, x); });
+            forEachBlockOfRow<unit>(
+                n_, [&](ptrdiff_t x) __attribute__((always_inline)) { block<1>(f, s, d, x); });
         else
-            forEachBlockOfRow<4 * unit>(n_, [&](ptrdiff_t x) { block<4>(f, s, d, x); });
+            forEachBlockOfRow<4 * unit>(
+                n_, [&](ptrdiff_t x) __attribute__((always_inline)) { block<4>(f, s, d, x); });
     }
 
+    template <bool Column>
     [[gnu::noinline]] void twoRows(const T* pixel, Row d, Row below) const {
         constexpr int units = Rule::unitsOfTwoRows;
         const T* s = byBytes(pixel, corner_);
         const Kernel f = f_;
-        forEachBlockOfRow<units * unit>(n_, [&](ptrdiff_t x) {
-            Sum sum[units] = {}, sumBelow[units] = {};
-            addTwoNeighbourhoods<Rule>(f, s + x, sum, sumBelow);
-            finish(sum, d, x);
-            finish(sumBelow, below, x);
-        });
+        forEachBlockOfRow<units * unit>(
+            n_, [&](ptrdiff_t x) __attribute__((always_inline)) {
+                Sum sum[units] = {}, sumBelow[units] = {};
+                if constexpr (Column)
+                    addTwoColumns<Rule>(f, s + x, sum, sumBelow);
+                else
+                    addTwoNeighbourhoods<Rule>(f, s + x, sum, sumBelow);
+                finish(sum, d, x);
+                finish(sumBelow, below, x);
+            });
     }
 
     template <int Units>
