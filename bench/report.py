@@ -3,7 +3,7 @@
 
     bench/report.py                                    all rows, build/release/bench/pxl_bench
     bench/report.py --filter 'copy_.*/640x480' --min-time 0.2
-    bench/report.py --subject filter --subject box     the rows of these subjects, named as in TITLES
+    bench/report.py --subject filter --subject box     the rows of these subjects, named as in SECTIONS
     bench/report.py --from results.json                tables of an earlier run
 
 Every number is the median of the repetitions of one interleaved run. Exit status 1: a row failed its check.
@@ -12,6 +12,7 @@ Every number is the median of the repetitions of one interleaved run. Exit statu
 import argparse
 import json
 import pathlib
+import re
 import subprocess
 import sys
 from collections import defaultdict
@@ -21,31 +22,40 @@ LEVEL = 0.97  # a ratio below this, noise allowed for, is behind the peer
 TINY_NS = 25  # what a call on 8x8 may cost
 FLOORS = ("memcpy", "memset")
 TWO_THREADS = "_2threads"  # ends the name of a row that runs again on two threads
-TITLES = {
-    "copy": "Copy",
-    "set": "Set",
-    "split": "Interleaved to planes",
-    "merge": "Planes to interleaved",
-    "extract": "Extract a channel",
-    "insert": "Insert a channel",
-    "swap": "Channel order",
-    "convert": "Convert",
-    "scale": "Scale",
-    "border": "Border extension",
-    "flip": "Mirror",
-    "transpose": "Transpose",
-    "add": "Add",
-    "sub": "Subtract",
-    "mul": "Multiply",
-    "div": "Divide",
-    "complex": "Complex arithmetic",
-    "addc": "Add a constant",
-    "mulc": "Multiply by a constant",
-    "logical": "Bitwise operations",
-    "shift": "Shifts",
-    "filter": "Linear filters",
-    "box": "Box filters",
+SECTIONS = {
+    "Data exchange": {
+        "copy": "Copy",
+        "set": "Set",
+        "split": "Interleaved to planes",
+        "merge": "Planes to interleaved",
+        "extract": "Extract a channel",
+        "insert": "Insert a channel",
+        "swap": "Channel order",
+        "convert": "Convert",
+        "scale": "Scale",
+        "border": "Border extension",
+        "flip": "Mirror",
+        "transpose": "Transpose",
+    },
+    "Arithmetic and logic": {
+        "add": "Add",
+        "sub": "Subtract",
+        "mul": "Multiply",
+        "div": "Divide",
+        "complex": "Complex arithmetic",
+        "addc": "Add a constant",
+        "mulc": "Multiply by a constant",
+        "logical": "Bitwise operations",
+        "shift": "Shifts",
+    },
+    "Filters": {
+        "filter": "Linear filters",
+        "box": "Box filters",
+    },
 }
+# Rows whose kernels are held against the bound of another type: their sums need 32 bits.
+BOUND_OF = {"filter_11x11_8u_C1": "16s"}
+LINEAR_ROW = re.compile(r"filter_(?:(\d+)x(\d+)|(?:row|column)(\d+))_(8u|16s|32f)_C(\d)$")
 
 
 def arguments():
@@ -106,7 +116,6 @@ def head(context):
     yield f"- Compiler: {context['compiler']}"
     yield f"- Peer: OpenCV {context['opencv']}, one thread on each side (two in rows ending in {TWO_THREADS})"
     yield f"- Date: {context['date'][:10]}"
-    yield f"- Command: `{context['command']}`"
     yield ""
     yield (
         "Medians. MPix/s counts destination pixels; GB/s is the size of all operands, read and written, over time. "
@@ -157,23 +166,45 @@ def behind(sides):
 
 
 def pair_tables(rows):
-    subjects = defaultdict(list)
+    lines = defaultdict(list)
     for row, size in rows:
         if line := pair_line(rows, row, size):
-            subjects[subject_of(row)].append(line)
-    # Subjects without a title of their own, as those of later programs, are called by their prefix.
-    order = [name for name in TITLES if name in subjects] + [name for name in subjects if name not in TITLES]
+            lines[subject_of(row)].append(line)
     threaded = {subject_of(row) for row, _ in rows if row.endswith(TWO_THREADS)}
-    for subject in order:
-        last = "gain" if subject in threaded else "of memcpy"
-        yield f"\n### {TITLES.get(subject, subject.capitalize())}\n"
-        yield f"| row | size | ours MPix/s | OpenCV MPix/s | ratio | ours GB/s | {last} |"
-        yield "|---|---|---:|---:|---:|---:|---:|"
-        yield from subjects[subject]
+    for section, subjects in SECTIONS.items():
+        if not lines.keys() & subjects.keys():
+            continue
+        yield f"\n## {section}"
+        for subject in (name for name in subjects if name in lines):
+            last = "gain" if subject in threaded else "of memcpy"
+            yield f"\n### {subjects[subject]}\n"
+            yield f"| row | size | ours MPix/s | OpenCV MPix/s | ratio | ours GB/s | {last} |"
+            yield "|---|---|---:|---:|---:|---:|---:|"
+            yield from lines[subject]
+
+
+def bound_table(rows, bounds):
+    """Cycles per pixel of linear filters on one thread beside those of their multiplications and additions alone."""
+    clock = bounds["clock"]
+    yield "\n### Linear filters beside the multiply-add bound\n"
+    yield (
+        f"640x480, one thread, at {clock / 1e9:.1f} GHz. The bound is what the multiplications and additions of a pixel take "
+        "in registers, without a load, a store or a fused operation.\n"
+    )
+    yield "| row | cycles per pixel | bound | share |"
+    yield "|---|---:|---:|---:|"
+    for (row, size), sides in rows.items():
+        if size != "640x480" or "pxl" not in sides or not (match := LINEAR_ROW.match(row)):
+            continue
+        width, height, length, element, channels = match.groups()
+        taps = int(length or int(width) * int(height)) * int(channels)
+        cycles = clock / sides["pxl"]["items_per_second"]
+        bound = clock * taps / bounds[BOUND_OF.get(row, element)]
+        yield f"| {row} | {cycles:.2f} | {bound:.2f} | {bound / cycles:.0%} |"
 
 
 def tiny_table(rows):
-    yield f"\n### Calls on 8x8\n\nCalls of {TINY_NS} ns and more are in bold.\n"
+    yield f"\n## Calls on 8x8\n\nCalls of {TINY_NS} ns and more are in bold.\n"
     yield "| row | ns per call |"
     yield "|---|---:|"
     for (row, _), sides in rows.items():
@@ -186,9 +217,12 @@ def report(results, subjects):
     if subjects:
         rows = {key: sides for key, sides in rows.items() if subject_of(key[0]) in subjects}
     tiny = {key: sides for key, sides in rows.items() if key[0].startswith("tiny_")}
-    pairs = {key: sides for key, sides in rows.items() if key not in tiny}
+    bounds = {row[6:]: sides["pxl"]["items_per_second"] for (row, _), sides in rows.items() if row.startswith("bound_")}
+    pairs = {key: sides for key, sides in rows.items() if not key[0].startswith(("tiny_", "bound_"))}
     yield from head(results["context"])
     yield from pair_tables(pairs)
+    if "32f" in bounds:
+        yield from bound_table(pairs, bounds)
     if tiny:
         yield from tiny_table(tiny)
     compared = [key for key, sides in pairs.items() if "pxl" in sides and "opencv" in sides]
