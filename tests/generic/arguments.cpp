@@ -196,7 +196,7 @@ void Builder::chooseArray(int i) {
     const Param& p = param(i);
     const int size = elementBytes(p.type);
     auto& bytes = call_.arrays[static_cast<size_t>(i)];
-    bytes.resize(static_cast<size_t>(p.count * size));
+    bytes.resize(static_cast<size_t>(p.count) * static_cast<size_t>(size));
     const auto fill = [&](auto&& value) {
         for (size_t at = 0; at < bytes.size();) {
             const auto next = value();

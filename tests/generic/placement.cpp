@@ -53,7 +53,7 @@ Reach Builder::reachOf(int i) {
     const Area area = areaOf(p);
     if (area.width() < 1 || area.height() < 1 || area.width() > longest || area.height() > longest) return {0, 64};
     if (area.x0 < -longest || area.y0 < -longest) return {0, 64};
-    const int64_t pixel = p.elements * elementBytes(p.type);
+    const int64_t pixel = int64_t{p.elements} * elementBytes(p.type);
     int64_t step = arg(i + 1).num;
     const std::string_view family = call_.member->family;
     if (family == "FilterBox" || family.starts_with("SumWindow")) step &= -elementBytes(p.type);
