@@ -10,6 +10,7 @@
 #pragma once
 
 #include "frame/checks.h"
+#include "frame/streaming.h"
 #include "frame/vec.h"
 #include "frame/vec_convert.h"
 #include "frame/walk.h"
@@ -67,11 +68,18 @@ PXL_INLINE void convertFourUnits(const Operation& operation, const S* s, D* d) {
         storeConverted<lanes<D>, Alpha>(convertRegister(operation, s + x), d + x);
 }
 
-// All whole units of n elements; returns where it stopped.
-template <bool Alpha, class Operation, class S, class D>
+// All whole units of n elements, with the lines of the results fetched ahead or not; returns where it stopped.
+template <bool Alpha, bool Fetched, class Operation, class S, class D>
 PXL_INLINE ptrdiff_t convertUnits(const Operation& operation, ptrdiff_t n, const S* s, D* d) {
     constexpr int unit = unitOf<Operation>;
+    constexpr int fourBytes = 4 * unit * static_cast<int>(sizeof(D));
+    constexpr int ahead = 4 * lineBytes / static_cast<int>(sizeof(D));
     ptrdiff_t x = 0;
+    if constexpr (Fetched)
+        for (; x + 4 * unit + ahead <= n; x += 4 * unit) {
+            fetchForStores<fourBytes>(d + x + ahead);
+            convertFourUnits<Alpha>(operation, s + x, d + x);
+        }
     for (; x + 4 * unit <= n; x += 4 * unit) convertFourUnits<Alpha>(operation, s + x, d + x);
     for (; x + unit <= n; x += unit) convertOneUnit<Alpha>(operation, s + x, d + x);
     return x;
@@ -89,13 +97,29 @@ struct FewResults {
 };
 
 // Rows are functions of their own: inlined into the walk, they would share its registers.
-template <class Operation, class S, class D>
+template <bool Fetched, class Operation, class S, class D>
 [[gnu::noinline]] void convertRow(Operation operation, ptrdiff_t n, const S* s, D* d) {
     constexpr int unit = unitOf<Operation>;
     if (n < unit)
         copyFew<unit * sizeof(D)>(d, FewResults(operation, n, s).data, static_cast<size_t>(n) * sizeof(D));
-    else if (convertUnits<false>(operation, n, s, d) < n)
+    else if (convertUnits<false, Fetched>(operation, n, s, d) < n)
         convertOneUnit<false>(operation, s + n - unit, d + n - unit);
+}
+
+// One or two units are so few that a call would double their time.
+template <class Operation>
+PXL_INLINE bool isShortRow(ptrdiff_t n) {
+    return unitOf<Operation> <= n && n <= 2 * unitOf<Operation>;
+}
+
+// False, and nothing done, where a row is not short.
+template <class Operation, class S, class D>
+PXL_INLINE bool convertShortRow(const Operation& operation, ptrdiff_t n, const S* s, D* d) {
+    constexpr int unit = unitOf<Operation>;
+    if (!isShortRow<Operation>(n)) return false;
+    convertOneUnit<false>(operation, s, d);
+    if (n > unit) convertOneUnit<false>(operation, s + n - unit, d + n - unit);
+    return true;
 }
 
 // Rows too short for a unit. The elements of a single pixel go one by one: in rows that overlap, an element that was
@@ -118,7 +142,7 @@ template <class Operation, class S, class D>
     const ptrdiff_t n = 4 * pixels - 1;
     if (n < unit) return convertFewColours(operation, pixels, s, d);
     const Vec<D> kept = LoadFirst<unit>(d + n - unit); // later it would wait for the stores that it overlaps
-    convertUnits<true>(operation, n, s, d);
+    convertUnits<true, false>(operation, n, s, d);
     const Vec<D> last = DemoteFirst<D>(convertUnit(operation, s + n - unit));
     StoreFirst<unit>(KeepEveryFourth<0>(kept, last), d + n - unit);
 }
@@ -128,8 +152,22 @@ template <class Operation, class S, class D>
 template <class Operation, class S, class D>
 [[gnu::noinline]] PxlStatus convertElements(Operation operation, const S* src, int srcStep, D* dst, int dstStep,
                                             ImageSize roi, int channels) {
-    const auto row = [=](ptrdiff_t n, const S* s, D* d) { convertRow(operation, n, s, d); };
-    walkElements(roi, channels, row, operand(src, srcStep), operand(dst, dstStep));
+    const ptrdiff_t width = ptrdiff_t{roi.width} * channels;
+    const auto from = operand(src, srcStep);
+    const auto to = operand(dst, dstStep);
+    const auto row = [=](ptrdiff_t n, const S* s, D* d) { convertRow<false>(operation, n, s, d); };
+    const auto shortRow = [=](ptrdiff_t n, const S* s, D* d) {
+        if (!convertShortRow(operation, n, s, d)) row(n, s, d); // regions walked as one long row
+    };
+    const auto fetchedRow = [=](ptrdiff_t n, const S* s, D* d) {
+        convertRow<(sizeof(D) > sizeof(S))>(operation, n, s, d); // widening is bound by its stores
+    };
+    if (isShortRow<Operation>(width))
+        walkElements(roi, channels, shortRow, from, to);
+    else if (isFetched(width, roi.height, from, to))
+        walkElements(roi, channels, fetchedRow, from, to);
+    else
+        walkElements(roi, channels, row, from, to);
     return PXL_OK;
 }
 

@@ -119,26 +119,54 @@ PXL_INLINE void splitPixels(ptrdiff_t n, const T* s, T* const (&d)[Planes]) {
     }
 }
 
-template <class Stores, int P, class T, int Planes>
+// Lines are fetched so many parts of a row ahead of the stores.
+constexpr int fetchedParts = 8;
+
+template <int P, class T, int Planes>
 PXL_INLINE void splitPart(const T* s, T* const (&d)[Planes], ptrdiff_t x) {
     Vec<T> v[Planes];
     loadPixels<P>(s + x * Planes, v);
     deinterleave(v);
 #pragma GCC unroll 4
-    for (int p = 0; p < Planes; ++p) {
-        if constexpr (P == lanes<T>)
-            Stores::store(v[p], d[p] + x);
-        else
-            StorePart<P>(v[p], d[p] + x);
+    for (int p = 0; p < Planes; ++p) StorePart<P>(v[p], d[p] + x);
+}
+
+// A line of each plane, so that no line waits half filled for the others: few can be on their way at a time.
+template <class T, int Planes>
+PXL_INLINE void streamSplitLines(const T* s, T* const (&d)[Planes], ptrdiff_t x) {
+    constexpr int most = lanes<T>;
+    constexpr int parts = lineBytes / vecBytes;
+    Vec<T> v[parts][Planes];
+#pragma GCC unroll 4
+    for (int i = 0; i < parts; ++i) {
+        loadPixels<most>(s + (x + i * most) * Planes, v[i]);
+        deinterleave(v[i]);
     }
+#pragma GCC unroll 4
+    for (int p = 0; p < Planes; ++p)
+#pragma GCC unroll 4
+        for (int i = 0; i < parts; ++i) Streamed::store(v[i][p], d[p] + x + i * most);
 }
 
 template <class T, int Planes>
-PXL_INLINE void ownSplitRow(ptrdiff_t n, const T* s, T* const (&d)[Planes], bool streamed) {
+PXL_INLINE void fetchPlanes(T* const (&d)[Planes], ptrdiff_t x) {
+#pragma GCC unroll 4
+    for (int p = 0; p < Planes; ++p) fetchForStores<vecBytes>(d[p] + x);
+}
+
+template <class T, int Planes>
+PXL_INLINE void ownSplitRow(ptrdiff_t n, const T* s, T* const (&d)[Planes], Storing storing) {
     constexpr int most = lanes<T>;
+    constexpr int line = lineBytes / static_cast<int>(sizeof(T));
     ptrdiff_t x = 0;
-    for (; streamed && x + most <= n; x += most) splitPart<Streamed, most>(s, d, x);
-    const auto part = [&]<int P>(Part<P>, ptrdiff_t at) { splitPart<Cached, P>(s, d, at); };
+    if (storing == Storing::Streamed)
+        for (; x + line <= n; x += line) streamSplitLines(s, d, x);
+    if (storing == Storing::Fetched)
+        for (; x + (fetchedParts + 1) * most <= n; x += most) {
+            fetchPlanes(d, x + fetchedParts * most);
+            splitPart<most>(s, d, x);
+        }
+    const auto part = [&]<int P>(Part<P>, ptrdiff_t at) { splitPart<P>(s, d, at); };
     if (!rowByParts<most, leastPart<T>>(n, part, x)) splitPixels(n, s, d);
 }
 
@@ -161,30 +189,36 @@ PXL_INLINE void mergePart(const T* const (&s)[Planes], T* d, ptrdiff_t x) {
 }
 
 template <class T, int Planes>
-PXL_INLINE void ownMergeRow(ptrdiff_t n, const T* const (&s)[Planes], T* d, bool streamed) {
+PXL_INLINE void ownMergeRow(ptrdiff_t n, const T* const (&s)[Planes], T* d, Storing storing) {
     constexpr int most = lanes<T>;
     ptrdiff_t x = 0;
-    for (; streamed && x + most <= n; x += most) mergePart<Streamed, most>(s, d, x);
+    if (storing == Storing::Streamed)
+        for (; x + most <= n; x += most) mergePart<Streamed, most>(s, d, x);
+    if (storing == Storing::Fetched)
+        for (; x + (fetchedParts + 1) * most <= n; x += most) {
+            fetchForStores<Planes * vecBytes>(d + (x + fetchedParts * most) * Planes);
+            mergePart<Cached, most>(s, d, x);
+        }
     const auto part = [&]<int P>(Part<P>, ptrdiff_t at) { mergePart<Cached, P>(s, d, at); };
     if (!rowByParts<most, leastPart<T>>(n, part, x)) mergePixels(n, s, d);
 }
 
-// Walks an image of pixels and its planes. The kernel is also told whether to stream.
+// Walks an image of pixels and its planes. The kernel is also told how to store.
 template <class Kernel, class T, class Pixels, int... P>
 void walkPlanes(ImageSize roi, Kernel kernel, Operand<Pixels> pixels, T* const* planes, int step,
                 std::integer_sequence<int, P...>) {
-    const bool streamed = isStreamed(roi.width, roi.height, pixels, operand(planes[P], step)...);
-    const auto row = [=](ptrdiff_t n, auto... p) { kernel(streamed, n, p...); };
+    const Storing storing = storingOf(roi.width, roi.height, pixels, operand(planes[P], step)...);
+    const auto row = [=](ptrdiff_t n, auto... p) { kernel(storing, n, p...); };
     walk(roi, row, pixels, operand(planes[P], step)...);
-    finishStreamed(streamed);
+    finishStreamed(storing == Storing::Streamed);
 }
 
 template <class T, int Planes>
 PxlStatus Split(const T* src, int srcStep, T* const* dst, int dstStep, ImageSize roi) {
     if (anyNull(src) || anyPlaneNull<Planes>(dst)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
-    const auto row = [](bool streamed, ptrdiff_t n, const T* s, auto... d) {
-        ownSplitRow<T, Planes>(n, s, {d...}, streamed);
+    const auto row = [](Storing storing, ptrdiff_t n, const T* s, auto... d) {
+        ownSplitRow<T, Planes>(n, s, {d...}, storing);
     };
     walkPlanes(roi, row, operand(src, srcStep, Planes), dst, dstStep, std::make_integer_sequence<int, Planes>{});
     return PXL_OK;
@@ -194,8 +228,8 @@ template <class T, int Planes>
 PxlStatus Merge(const T* const* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
     if (anyPlaneNull<Planes>(src) || anyNull(dst)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
-    const auto row = [](bool streamed, ptrdiff_t n, T* d, auto... s) {
-        ownMergeRow<T, Planes>(n, {s...}, d, streamed);
+    const auto row = [](Storing storing, ptrdiff_t n, T* d, auto... s) {
+        ownMergeRow<T, Planes>(n, {s...}, d, storing);
     };
     walkPlanes(roi, row, operand(dst, dstStep, Planes), src, srcStep, std::make_integer_sequence<int, Planes>{});
     return PXL_OK;

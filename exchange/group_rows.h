@@ -80,8 +80,23 @@ inline void changePixels(ptrdiff_t n, const T* s, T* d, Change change) {
     }
 }
 
+// A row of one or two groups, or of what lies between. False, and nothing done, for others.
 template <class T, GroupForm Form, class Change>
-PXL_INLINE void ownChangeRow(ptrdiff_t n, const T* s, T* d, bool streamed, Change change) {
+PXL_INLINE bool changeShortRow(ptrdiff_t n, const T* s, T* d, Change change) {
+    constexpr int group = groupPixels<T>;
+    if (n < group || n > 2 * group) return false;
+    const auto source = [&](ptrdiff_t x) {
+        return loadGroup<T, Form.srcElements, Form.srcRead()>(s + x * Form.srcElements);
+    };
+    const Vec<T> first = source(0), last = source(n - group);
+    changeGroup<T, Form>(first, d, change);
+    if (n > group) changeGroup<T, Form>(last, d + (n - group) * Form.dstElements, change);
+    return true;
+}
+
+template <class T, GroupForm Form, class Change>
+[[gnu::noinline]] void ownChangeRow(ptrdiff_t n, const T* s, T* d, bool streamed, const Change& constants) {
+    const Change change = constants; // to registers, which no store can change
     constexpr int group = groupPixels<T>;
     constexpr int block = 4 * vecGroups * group;
     if (n < group) return changePixels<T, Form>(n, s, d, change);
@@ -113,7 +128,9 @@ inline void walkGroups(ImageSize roi, Change change, const T* src, int srcStep, 
     const auto s = operand(src, srcStep, Form.srcElements);
     const auto d = operand(dst, dstStep, Form.dstElements);
     const bool streamed = !Form.keepsOld && src != dst && isStreamed(roi.width, roi.height, s, d);
-    const auto row = [=](ptrdiff_t n, const T* from, T* to) { ownChangeRow<T, Form>(n, from, to, streamed, change); };
+    const auto row = [=](ptrdiff_t n, const T* from, T* to) {
+        if (!changeShortRow<T, Form>(n, from, to, change)) ownChangeRow<T, Form>(n, from, to, streamed, change);
+    };
     walk(roi, row, s, d);
     finishStreamed(streamed);
 }

@@ -1,5 +1,5 @@
-// Stores that pass by the caches, for images that would not stay there: the lines that they fill need not be read
-// first.
+// Ways to keep stores from waiting for the lines that they go to: asking for the lines ahead of them, and, for images
+// that would not stay in the caches, passing by those, so that the lines need not be read at all.
 #pragma once
 
 #include "frame/vec.h"
@@ -29,6 +29,16 @@ struct Streamed {
     }
     PXL_INLINE static void store(__m128i v, void* p) { _mm_stream_si128(static_cast<__m128i*>(p), v); }
 };
+
+// The bytes of a line of the caches.
+inline constexpr int lineBytes = 64;
+
+// Asks for the lines of Bytes bytes that will be stored to soon. Nothing is read or written by that.
+template <int Bytes>
+PXL_INLINE void fetchForStores(void* p) {
+#pragma GCC unroll 4
+    for (int i = 0; i < Bytes; i += lineBytes) __builtin_prefetch(static_cast<char*>(p) + i, 1);
+}
 
 // Orders streamed stores before whatever the caller does next.
 inline void finishStreamed(bool streamed) {

@@ -78,23 +78,26 @@ inline bool rowConflict(ptrdiff_t width, ptrdiff_t y, const Operand<T>&... o) {
     return anyConflict(width, 1, Operand<T>{o.at(0, y), 0, o.pixelBytes}...);
 }
 
+// Rows of operands that overlap somewhere. A function of its own: in line, it would take registers from the loop that
+// nearly all calls run.
 template <class Kernel, class... T>
-inline void walkRows(ptrdiff_t width, ptrdiff_t height, Kernel&& kernel, Operand<T>... o) {
-    const bool apart = !anyConflict(width, height, o...);
-    if (apart && (... && (o.step == width * o.pixelBytes))) {
-        width *= height;
-        height = 1;
-    }
-    if (apart) {
-        for (; height > 0; --height) {
-            kernel(width, o.base...);
-            (..., (o.base = o.at(0, 1)));
-        }
-        return;
-    }
+[[gnu::noinline]] void walkOverlapping(ptrdiff_t width, ptrdiff_t height, Kernel kernel, Operand<T>... o) {
     for (ptrdiff_t y = 0; y < height; ++y) {
         const ptrdiff_t run = rowConflict(width, y, o...) ? 1 : width;
         for (ptrdiff_t x = 0; x < width; x += run) kernel(run, o.at(x, y)...);
+    }
+}
+
+template <class Kernel, class... T>
+inline void walkRows(ptrdiff_t width, ptrdiff_t height, Kernel&& kernel, Operand<T>... o) {
+    if (anyConflict(width, height, o...)) return walkOverlapping(width, height, kernel, o...);
+    if ((... && (o.step == width * o.pixelBytes))) {
+        width *= height;
+        height = 1;
+    }
+    for (; height > 0; --height) {
+        kernel(width, o.base...);
+        (..., (o.base = o.at(0, 1)));
     }
 }
 
