@@ -150,6 +150,15 @@ TEST_P(Differential, BrokenCalls) {
     EXPECT_GT(refused, 75) << "too few of the broken calls were refused";
 }
 
+// The order of the checks: every two arguments broken together, and each alone.
+TEST_P(Differential, EveryPairOfBrokenArguments) {
+    const Member& member = GetParam();
+    Random random(std::hash<std::string_view>()(member.name) + 2);
+    for (int first = 0; first < member.count; ++first)
+        for (int second = first; second < member.count && !HasFailure(); ++second)
+            for (int variant = 0; variant < 3; ++variant) compare(brokenCall(member, random, first, second), random);
+}
+
 std::string memberName(const testing::TestParamInfo<Member>& info) { return std::string(info.param.name); }
 
 // Members that touch no image return their results another way and have tests of their own.

@@ -266,8 +266,9 @@ void Builder::chooseSteps() {
     }
 }
 
-void Builder::breakOne() {
-    const int i = static_cast<int>(between(random_, 0, call_.member->count - 1));
+void Builder::breakOne() { breakArgument(static_cast<int>(between(random_, 0, call_.member->count - 1))); }
+
+void Builder::breakArgument(int i) {
     switch (param(i).role) {
     case Role::Size:
         return breakSize(i);

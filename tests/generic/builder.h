@@ -21,7 +21,8 @@ class Builder {
 public:
     Builder(const Member& member, Random& random);
 
-    // Makes one argument wrong.
+    // Makes an argument wrong: the given one, or any.
+    void breakArgument(int i);
     void breakOne();
     Call place();
 

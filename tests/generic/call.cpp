@@ -82,4 +82,11 @@ Call brokenCall(const Member& member, Random& random) {
     return builder.place();
 }
 
+Call brokenCall(const Member& member, Random& random, int first, int second) {
+    Builder builder(member, random);
+    builder.breakArgument(first);
+    if (second != first) builder.breakArgument(second);
+    return builder.place();
+}
+
 } // namespace generic

@@ -56,6 +56,9 @@ Call randomCall(const Member& member, Random& random);
 // The same with one or two arguments out of order.
 Call brokenCall(const Member& member, Random& random);
 
+// The same with these two, which may be one.
+Call brokenCall(const Member& member, Random& random, int first, int second);
+
 // Fills the window of a memory with bytes that make sense for the images placed in it.
 void fillMemory(const Call& call, int memory, uint8_t* bytes, Random& random);
 
