@@ -11,7 +11,7 @@ mv "$work/first" "$work/moved"
 prefix=$work/moved
 package=$(find "$prefix" -name pxlimx.pc)
 
-cmake -S "$source/tests/consumer" -B "$work/cmake" ${toolchain:+--toolchain "$toolchain"} \
+cmake -G Ninja -S "$source/tests/consumer" -B "$work/cmake" ${toolchain:+--toolchain "$toolchain"} \
     -Dpxlimx_DIR="$(dirname "$(find "$prefix" -name pxlimx-config.cmake)")" >/dev/null
 cmake --build "$work/cmake" >/dev/null
 

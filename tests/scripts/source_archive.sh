@@ -9,7 +9,7 @@ trap 'rm -rf "$work"' EXIT
 cpack --config "$build/CPackSourceConfig.cmake" -B "$work" >/dev/null
 tar -xzf "$work"/pxlimx-*.tar.gz -C "$work"
 unpacked=$(find "$work" -mindepth 1 -maxdepth 1 -type d -name 'pxlimx-*')
-cmake -S "$unpacked" -B "$work/build" -DPXL_TESTS=OFF >/dev/null
+cmake -G Ninja -S "$unpacked" -B "$work/build" -DPXL_TESTS=OFF >/dev/null
 if git -C "$source" ls-files --error-unmatch CMakeLists.txt >/dev/null 2>&1; then
     diff <(git -C "$source" ls-files --cached --others --exclude-standard | LC_ALL=C sort) \
          <(cd "$unpacked" && find . -type f -printf '%P\n' | LC_ALL=C sort)
