@@ -14,6 +14,10 @@ void addConversions() {
     addConvert("convert_8u32f_C1", CV_8U, CV_32F, [](Frame& f) { return unary(pxliConvert_8u32f_C1R, f); });
     addConvert("convert_32f8u_C1", CV_32F, CV_8U,
                [](Frame& f) { return unary(pxliConvert_32f8u_C1R, f, PXL_ROUND_NEAR_EVEN); });
+    addConvert("convert_32f16s_C1", CV_32F, CV_16S,
+               [](Frame& f) { return unary(pxliConvert_32f16s_C1R, f, PXL_ROUND_NEAR_EVEN); });
+    addConvert("convert_32f16u_C1", CV_32F, CV_16U,
+               [](Frame& f) { return unary(pxliConvert_32f16u_C1R, f, PXL_ROUND_NEAR_EVEN); });
     addConvert("convert_8u16s_C1", CV_8U, CV_16S, [](Frame& f) { return unary(pxliConvert_8u16s_C1R, f); });
     addConvert("convert_16s8u_C1", CV_16S, CV_8U, [](Frame& f) { return unary(pxliConvert_16s8u_C1R, f); });
     addConvert("convert_16u32f_C1", CV_16U, CV_32F, [](Frame& f) { return unary(pxliConvert_16u32f_C1R, f); });
