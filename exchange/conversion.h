@@ -159,15 +159,17 @@ template <class Operation, class S, class D>
     const auto shortRow = [=](ptrdiff_t n, const S* s, D* d) {
         if (!convertShortRow(operation, n, s, d)) row(n, s, d); // regions walked as one long row
     };
-    const auto fetchedRow = [=](ptrdiff_t n, const S* s, D* d) {
-        convertRow<(sizeof(D) > sizeof(S))>(operation, n, s, d); // widening is bound by its stores
-    };
-    if (isShortRow<Operation>(width))
+    if (isShortRow<Operation>(width)) {
         walkElements(roi, channels, shortRow, from, to);
-    else if (isFetched(width, roi.height, from, to))
-        walkElements(roi, channels, fetchedRow, from, to);
-    else
-        walkElements(roi, channels, row, from, to);
+        return PXL_OK;
+    }
+    if constexpr (sizeof(D) > sizeof(S)) // widening is bound by its stores
+        if (isFetched(width, roi.height, from, to)) {
+            const auto fetchedRow = [=](ptrdiff_t n, const S* s, D* d) { convertRow<true>(operation, n, s, d); };
+            walkElements(roi, channels, fetchedRow, from, to);
+            return PXL_OK;
+        }
+    walkElements(roi, channels, row, from, to);
     return PXL_OK;
 }
 
@@ -178,9 +180,11 @@ PxlStatus convertColours(Operation operation, const S* src, int srcStep, D* dst,
     return PXL_OK;
 }
 
-// Converts the first Channels of Elements elements of every pixel.
+// Converts the first Channels of Elements elements of every pixel, if the arguments are good.
 template <int Elements, int Channels, class Operation, class S, class D>
 PxlStatus convertRegion(Operation operation, const S* src, int srcStep, D* dst, int dstStep, ImageSize roi) {
+    const PxlStatus status = checkConversion<Elements, Channels>(src, srcStep, dst, dstStep, roi);
+    if (status != PXL_OK) return status;
     if constexpr (Channels < Elements) return convertColours(operation, src, srcStep, dst, dstStep, roi);
     return convertElements(operation, src, srcStep, dst, dstStep, roi, Elements);
 }

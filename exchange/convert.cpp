@@ -67,15 +67,11 @@ struct Truncate {
 
 template <class S, class D, int Elements, int Channels>
 PxlStatus Convert(const S* src, int srcStep, D* dst, int dstStep, ImageSize roi) {
-    const PxlStatus status = checkConversion<Elements, Channels>(src, srcStep, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
     return convertRegion<Elements, Channels>(KeepValue<S, D>(), src, srcStep, dst, dstStep, roi);
 }
 
 template <class D, int Elements, int Channels>
 PxlStatus ConvertRounded(const float* src, int srcStep, D* dst, int dstStep, ImageSize roi, int roundMode) {
-    const PxlStatus status = checkConversion<Elements, Channels>(src, srcStep, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
     const auto run = [&](auto operation) {
         return convertRegion<Elements, Channels>(operation, src, srcStep, dst, dstStep, roi);
     };

@@ -120,8 +120,6 @@ inline bool isFarFrom0(float origin) { return origin >= 2.0f || origin <= -2.0f;
 
 template <class D, int Elements, int Channels>
 PxlStatus ScaleWiden(const uint8_t* src, int srcStep, D* dst, int dstStep, ImageSize roi) {
-    const PxlStatus status = checkConversion<Elements, Channels>(src, srcStep, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
     return convertRegion<Elements, Channels>(RepeatByte<D>(), src, srcStep, dst, dstStep, roi);
 }
 
@@ -129,8 +127,6 @@ PxlStatus ScaleWiden(const uint8_t* src, int srcStep, D* dst, int dstStep, Image
 // 16s8u.
 template <class S, int Elements, int Channels>
 PxlStatus ScaleNarrow(const S* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roi, int /*hint*/) {
-    const PxlStatus status = checkConversion<Elements, Channels>(src, srcStep, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
     return convertRegion<Elements, Channels>(NarrowToByte<S>(), src, srcStep, dst, dstStep, roi);
 }
 
@@ -141,8 +137,6 @@ template <int Elements, int Channels>
 PxlStatus ScaleToFloat(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roi, float vMin,
                        float vMax) {
     if (isEmptyRange(vMin, vMax)) return PXL_E_SCALE_RANGE;
-    const PxlStatus status = checkConversion<Elements, Channels>(src, srcStep, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
     return convertRegion<Elements, Channels>(ToFloat{(vMax - vMin) / 255.0f, vMin}, src, srcStep, dst, dstStep, roi);
 }
 
@@ -150,8 +144,6 @@ template <int Elements, int Channels>
 PxlStatus ScaleFromFloat(const float* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roi, float vMin,
                          float vMax) {
     if (isEmptyRange(vMin, vMax)) return PXL_E_SCALE_RANGE;
-    const PxlStatus status = checkConversion<Elements, Channels>(src, srcStep, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
     const auto run = [&](auto operation) {
         return convertRegion<Elements, Channels>(operation, src, srcStep, dst, dstStep, roi);
     };

@@ -42,7 +42,7 @@ BoxWindow<T> ownWindow(const T* src, int srcStep, ImageSize roi, ImageSize mask,
 
 // ---- the worker of a call ------------------------------------------------------------------------------------------------------
 
-template <int Elements, int Channels>
+template <int Elements>
 BoxFactor ownFactor(ImageSize mask, int32_t area) {
     if (Elements == 3 && mask.width == 3 && mask.height == 3) return {29128, 18};
     return BoxFactor(area);
@@ -64,7 +64,7 @@ PxlStatus ownWithWorker(const BoxWindow<T>& window, ImageSize mask, const Run& r
     }
     if constexpr (std::is_same_v<T, uint8_t>) {
         if (area > boxIntegerArea) return squares(BoxMeanFloat<T>(reciprocal));
-        const BoxFactor factor = ownFactor<Elements, Channels>(mask, area);
+        const BoxFactor factor = ownFactor<Elements>(mask, area);
         if (area <= boxNarrowArea) return squares(BoxMeanNarrow(factor));
         return squares(BoxMeanInteger(factor));
     }

@@ -5,8 +5,8 @@
 // decided once per call:
 //   bytes  8u, sums that fit 16 bits whatever the samples, signed or, without negative coefficients, unsigned: 8-bit
 //          coefficients, 16-bit sums
-//   words  16-bit coefficients: 32-bit sums. 16u samples are lowered by 32768 to be signed, and the sum is raised
-//   again. none   other kernels, which take filter/sums.h, as do rows shorter than a block
+//   words  16-bit coefficients: 32-bit sums. 16u samples are lowered by 32768 to be signed, and the sum is raised again.
+//   none   other kernels, which take filter/sums.h, as do rows shorter than a block
 #pragma once
 
 #include "filter/sums.h"

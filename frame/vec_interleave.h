@@ -368,41 +368,6 @@ PXL_INLINE void interleave(Vec<T> (&v)[3]) {
 
 #endif
 
-// ---- from memory and back -----------------------------------------------------------------------------------------
-
-template <class T, int Pixels = lanes<T>>
-PXL_INLINE void LoadInterleaved3(const T* p, Vec<T>& a, Vec<T>& b, Vec<T>& c) {
-    Vec<T> v[3];
-    loadPixels<Pixels>(p, v);
-    deinterleave(v);
-    a = v[0];
-    b = v[1];
-    c = v[2];
-}
-template <class T, int Pixels = lanes<T>>
-PXL_INLINE void StoreInterleaved3(Vec<T> a, Vec<T> b, Vec<T> c, T* p) {
-    Vec<T> v[3] = {a, b, c};
-    interleave(v);
-    storePixels<Pixels>(v, p);
-}
-
-template <class T, int Pixels = lanes<T>>
-PXL_INLINE void LoadInterleaved4(const T* p, Vec<T>& a, Vec<T>& b, Vec<T>& c, Vec<T>& d) {
-    Vec<T> v[4];
-    loadPixels<Pixels>(p, v);
-    deinterleave(v);
-    a = v[0];
-    b = v[1];
-    c = v[2];
-    d = v[3];
-}
-template <class T, int Pixels = lanes<T>>
-PXL_INLINE void StoreInterleaved4(Vec<T> a, Vec<T> b, Vec<T> c, Vec<T> d, T* p) {
-    Vec<T> v[4] = {a, b, c, d};
-    interleave(v);
-    storePixels<Pixels>(v, p);
-}
-
 // ---- one channel --------------------------------------------------------------------------------------------------
 
 // One channel of N vectors of pixels.
