@@ -94,6 +94,5 @@ int main() {
     for (const generic::Member& member : generic::members())
         if (worksOnImages(member)) printMember(member, memory);
     printBufferSize();
-    print("pxliFree", 0, Checksum());
     return 0;
 }
