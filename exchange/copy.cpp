@@ -2,7 +2,7 @@
 // that of the source.
 #include "exchange/group_rows.h"
 #include "frame/checks.h"
-#include "frame/vec.h"
+#include "frame/vec/memory.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
@@ -62,14 +62,14 @@ PxlStatus ownCopyColour(const T* src, int srcStep, T* dst, int dstStep, ImageSiz
 template <class T>
 PxlStatus CopyColour(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
     constexpr GroupForm form{.srcElements = 4, .dstElements = 4, .readsFourth = false, .keepsOld = true};
-    const auto change = [](Vec<T> s, Vec<T> old) { return IfThenElse(colourMask4<T>(), s, old); };
+    const auto change = [](Vec<T> s, Vec<T> old) { return KeepAlpha(old, s); };
     return ownCopyColour<T, form>(src, srcStep, dst, dstStep, roi, change);
 }
 
 template <class T>
 PxlStatus CopyToColour(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
     constexpr GroupForm form{.srcElements = 3, .dstElements = 4, .readsFourth = false, .keepsOld = true};
-    const auto change = [](Vec<T> s, Vec<T> old) { return IfThenElse(colourMask4<T>(), ExpandGroups(s), old); };
+    const auto change = [](Vec<T> s, Vec<T> old) { return KeepAlpha(old, ExpandGroups(s)); };
     return ownCopyColour<T, form>(src, srcStep, dst, dstStep, roi, change);
 }
 

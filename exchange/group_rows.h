@@ -1,9 +1,9 @@
-// Rows of pixels whose three or four elements are changed group by group (frame/vec_groups.h), with the source disjoint
+// Rows of pixels whose three or four elements are changed group by group (exchange/groups.h), with the source disjoint
 // from the destination or exactly in place.
 #pragma once
 
+#include "exchange/groups.h"
 #include "frame/streaming.h"
-#include "frame/vec_groups.h"
 
 namespace pxl::PXL_TARGET {
 
@@ -22,18 +22,18 @@ struct GroupForm {
 template <class T, int Elements, int Read = Elements>
 PXL_INLINE Vec<T> loadGroup(const T* p) {
     constexpr int unread = (Elements - Read) * static_cast<int>(sizeof(T)); // of the last pixel
-    return fromInts<T>(fromBlock(loadBlock<4 * Elements - unread>(p)));
+    return ZeroExtend<T>(LoadBlock<4 * Elements - unread>(p));
 }
 template <int Elements, class T>
 PXL_INLINE void storeGroup(Vec<T> v, T* p) {
-    storeBlock<4 * Elements>(lowerBlock(ints(v)), p);
+    StoreBlock<4 * Elements>(ExtractBlock<0>(v), p);
 }
 
 // Four vectors of groups.
 template <int Elements, class T>
 PXL_INLINE void loadGroups(const T* p, Vec<T> (&v)[4]) {
     if constexpr (Elements == 3) {
-        LoadGroups3(p, v[0], v[1], v[2], v[3]);
+        LoadGroups3(p, v);
     } else {
 #pragma GCC unroll 4
         for (int i = 0; i < 4; ++i) v[i] = LoadU(p + i * lanes<T>);
@@ -42,7 +42,7 @@ PXL_INLINE void loadGroups(const T* p, Vec<T> (&v)[4]) {
 template <int Elements, class Stores, class T>
 PXL_INLINE void storeGroups(const Vec<T> (&v)[4], T* p) {
     if constexpr (Elements == 3) {
-        StoreGroups3<Stores>(v[0], v[1], v[2], v[3], p);
+        StoreGroups3<Stores>(v, p);
     } else {
 #pragma GCC unroll 4
         for (int i = 0; i < 4; ++i) Stores::store(v[i], p + i * lanes<T>);
@@ -98,7 +98,7 @@ template <class T, GroupForm Form, class Change>
 [[gnu::noinline]] void ownChangeRow(ptrdiff_t n, const T* s, T* d, bool streamed, const Change& constants) {
     const Change change = constants; // to registers, which no store can change
     constexpr int group = groupPixels<T>;
-    constexpr int block = 4 * vecGroups * group;
+    constexpr int block = 4 * vecBlocks * group;
     if (n < group) return changePixels<T, Form>(n, s, d, change);
     const auto source = [&](ptrdiff_t x) {
         return loadGroup<T, Form.srcElements, Form.srcRead()>(s + x * Form.srcElements);

@@ -1,9 +1,10 @@
 // Channel orders: element k of a destination pixel receives element dstOrder[k] of the source pixel. All elements of a
-// pixel are read before one is written. On AVX2 an order is one byte shuffle per group of pixels, made once per call;
-// on SSE2, which has none, channels are taken apart and put together again.
+// pixel are read before one is written. With shuffles of bytes an order is one of them per group of pixels, made once
+// per call; without, channels are taken apart and put together again.
 #include "exchange/group_rows.h"
 #include "frame/checks.h"
 #include "frame/row_parts.h"
+#include "frame/vec/partial.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
@@ -25,22 +26,6 @@ bool isInRange(const int32_t* order, int32_t last) {
 }
 
 // ---- rows ---------------------------------------------------------------------------------------------------------
-
-#ifdef __AVX2__
-
-template <class T, GroupForm Form, int Entries>
-void ownSwap(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const int32_t* dstOrder, T value = 0) {
-    const OrderLookup<T, Form.srcElements, Form.dstElements, Entries> lookup(dstOrder, value);
-    const auto change = [=](Vec<T> source, Vec<T> old) {
-        Vec<T> pixels = lookup(source);
-        if constexpr (Form.srcElements < Form.dstElements) pixels = pixels | lookup.value;
-        if constexpr (Form.keepsOld) pixels = pixels | (old & lookup.keep);
-        return pixels;
-    };
-    walkGroups<T, Form>(roi, change, src, srcStep, dst, dstStep);
-}
-
-#else
 
 struct Order {
     int32_t from[4] = {keep, keep, keep, keep};
@@ -76,7 +61,7 @@ PXL_INLINE void swapVectors(const T* s, T* d, const Order& order, T value) {
 }
 
 template <class T, GroupForm Form>
-PXL_INLINE void ownSwapRow(ptrdiff_t n, const T* s, T* d, const Order& order, T value) {
+PXL_INLINE void swapRow(ptrdiff_t n, const T* s, T* d, const Order& order, T value) {
     const ptrdiff_t readable = Form.srcRead() == Form.srcElements ? n : n - 1;
     ptrdiff_t x = 0;
     for (; x + lanes<T> <= readable; x += lanes<T>)
@@ -85,14 +70,23 @@ PXL_INLINE void ownSwapRow(ptrdiff_t n, const T* s, T* d, const Order& order, T 
 }
 
 template <class T, GroupForm Form, int Entries>
-void ownSwap(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const int32_t* dstOrder, T value = 0) {
-    Order order;
-    std::memcpy(order.from, dstOrder, Entries * sizeof(int32_t));
-    const auto row = [=](ptrdiff_t n, const T* s, T* d) { ownSwapRow<T, Form>(n, s, d, order, value); };
-    walk(roi, row, operand(src, srcStep, Form.srcElements), operand(dst, dstStep, Form.dstElements));
+void swapChannels(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const int32_t* dstOrder, T value = 0) {
+    if constexpr (hasByteShuffle) {
+        const OrderLookup<T, Form.srcElements, Form.dstElements, Entries> lookup(dstOrder, value);
+        const auto change = [=](Vec<T> source, Vec<T> old) {
+            Vec<T> pixels = lookup(source);
+            if constexpr (Form.srcElements < Form.dstElements) pixels = pixels | lookup.value;
+            if constexpr (Form.keepsOld) pixels = pixels | (old & lookup.keep);
+            return pixels;
+        };
+        walkGroups<T, Form>(roi, change, src, srcStep, dst, dstStep);
+    } else {
+        Order order;
+        std::memcpy(order.from, dstOrder, Entries * sizeof(int32_t));
+        const auto row = [=](ptrdiff_t n, const T* s, T* d) { swapRow<T, Form>(n, s, d, order, value); };
+        walk(roi, row, operand(src, srcStep, Form.srcElements), operand(dst, dstStep, Form.dstElements));
+    }
 }
-
-#endif
 
 // ---- members ------------------------------------------------------------------------------------------------------
 
@@ -104,7 +98,7 @@ PxlStatus SwapChannels(const T* src, int srcStep, T* dst, int dstStep, ImageSize
     if (isEmpty(roi)) return PXL_E_SIZE;
     if (anyStepBelow1(srcStep, dstStep)) return PXL_E_STEP;
     if (!isInRange<3>(dstOrder, 2)) return PXL_E_CHANNEL_ORDER;
-    ownSwap<T, form, 3>(src, srcStep, dst, dstStep, roi, dstOrder);
+    swapChannels<T, form, 3>(src, srcStep, dst, dstStep, roi, dstOrder);
     return PXL_OK;
 }
 
@@ -120,7 +114,7 @@ PxlStatus SwapChannelsInPlace4(T* srcDst, int step, ImageSize roi, const int32_t
     if (anyStepBelow1(step)) return PXL_E_STEP; // before the size, unlike the other members
     if (isEmpty(roi)) return PXL_E_SIZE;
     if (!isInRange<4>(dstOrder, 3)) return PXL_E_CHANNEL_ORDER;
-    ownSwap<T, form, 4>(srcDst, step, srcDst, step, roi, dstOrder);
+    swapChannels<T, form, 4>(srcDst, step, srcDst, step, roi, dstOrder);
     return PXL_OK;
 }
 
@@ -133,9 +127,9 @@ PxlStatus SwapChannels3To4(const T* src, int srcStep, T* dst, int dstStep, Image
     if (isEmpty(roi)) return PXL_E_SIZE;
     if (!isInRange<4>(dstOrder, INT32_MAX)) return PXL_E_CHANNEL_ORDER;
     if (isInRange<4>(dstOrder, fill))
-        ownSwap<T, form, 4>(src, srcStep, dst, dstStep, roi, dstOrder, value);
+        swapChannels<T, form, 4>(src, srcStep, dst, dstStep, roi, dstOrder, value);
     else
-        ownSwap<T, keeping, 4>(src, srcStep, dst, dstStep, roi, dstOrder, value);
+        swapChannels<T, keeping, 4>(src, srcStep, dst, dstStep, roi, dstOrder, value);
     return PXL_OK;
 }
 
@@ -145,17 +139,17 @@ PxlStatus SwapChannels4To3(const T* src, int srcStep, T* dst, int dstStep, Image
     if (anyNull(src, dst, dstOrder)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
     if (!isInRange<3>(dstOrder, 3)) return PXL_E_CHANNEL_ORDER;
-    ownSwap<T, form, 3>(src, srcStep, dst, dstStep, roi, dstOrder);
+    swapChannels<T, form, 3>(src, srcStep, dst, dstStep, roi, dstOrder);
     return PXL_OK;
 }
 
 // ---- one channel to three -----------------------------------------------------------------------------------------
 
 template <class T>
-void ownDuplicateRow(ptrdiff_t n, const T* s, T* d) {
+void duplicateRow(ptrdiff_t n, const T* s, T* d) {
     const auto part = [&]<int P>(Part<P>, ptrdiff_t x) {
         Vec<T> pixels[3];
-        repeatChannel3(LoadPart<P>(s + x), pixels);
+        repeatChannel3(LoadFirst<P>(s + x), pixels);
         storePixels<P>(pixels, d + x * 3);
     };
     if (rowByParts<lanes<T>, leastPart<T>>(n, part)) return;
@@ -169,7 +163,7 @@ template <class T>
 PxlStatus Duplicate(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
     if (anyNull(src, dst)) return PXL_E_NULL_PTR;
     if (isEmpty(roi)) return PXL_E_SIZE;
-    walk(roi, ownDuplicateRow<T>, operand(src, srcStep), operand(dst, dstStep, 3));
+    walk(roi, duplicateRow<T>, operand(src, srcStep), operand(dst, dstStep, 3));
     return PXL_OK;
 }
 

@@ -7,10 +7,9 @@
 //
 // In place, a tile and its counterpart change places through a buffer. Operands that overlap, and rows that overlap
 // each other, are moved pixel by pixel in reading order.
+#include "exchange/transpose_blocks.h"
 #include "frame/checks.h"
 #include "frame/pixel.h"
-#include "frame/vec.h"
-#include "frame/vec_transpose.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
@@ -76,7 +75,6 @@ void transposeByBlocks(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrd
     transposePixels<Bytes>(src, srcStep, dst, dstStep, width, height);
 }
 
-#ifdef __AVX2__
 template <int Bytes>
 void transposeByBlocksOfThrees(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t width,
                                ptrdiff_t height) {
@@ -85,21 +83,20 @@ void transposeByBlocksOfThrees(const uint8_t* src, ptrdiff_t srcStep, uint8_t* d
         return transposePixels<Bytes>(src, srcStep, dst, dstStep, width, height);
     coverByBlocks<Bytes, Block::columns, Block::rows>(
         src, srcStep, dst, dstStep, width, height, [=](const uint8_t* s, uint8_t* d, ptrdiff_t x, ptrdiff_t y) {
-            transposeBlockOfThrees<Bytes>(s, srcStep, d, dstStep, (width - x) * Bytes < 16, (height - y) * Bytes < 32);
+            transposeBlockOfThrees<Bytes>(s, srcStep, d, dstStep, (width - x) * Bytes < 16,
+                                          (height - y) * Bytes < vecBytes);
         });
 }
-#endif
 
 template <int Bytes>
 PXL_INLINE void transposeTile(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ptrdiff_t width,
                               ptrdiff_t height) {
     if constexpr (Bytes <= 8 && 8 % Bytes == 0)
-        return transposeByBlocks<Bytes>(src, srcStep, dst, dstStep, width, height);
-#ifdef __AVX2__
-    if constexpr (Bytes == 3 || Bytes == 6)
-        return transposeByBlocksOfThrees<Bytes>(src, srcStep, dst, dstStep, width, height);
-#endif
-    transposePixels<Bytes>(src, srcStep, dst, dstStep, width, height);
+        transposeByBlocks<Bytes>(src, srcStep, dst, dstStep, width, height);
+    else if constexpr (hasByteShuffle && (Bytes == 3 || Bytes == 6))
+        transposeByBlocksOfThrees<Bytes>(src, srcStep, dst, dstStep, width, height);
+    else
+        transposePixels<Bytes>(src, srcStep, dst, dstStep, width, height);
 }
 
 // ---- regions --------------------------------------------------------------------------------------------------------
@@ -112,7 +109,7 @@ constexpr ptrdiff_t cachedBytes = 1 << 20;
 template <int Bytes>
 constexpr ptrdiff_t cachedHeight() {
     if (Bytes > 8) return 8;
-    return isAvx2 || Bytes % 3 ? 64 : 32; // 32 where pixels are moved one by one
+    return hasByteShuffle || Bytes % 3 ? 64 : 32; // 32 where pixels are moved one by one
 }
 
 template <int Bytes>
@@ -120,7 +117,7 @@ inline constexpr ptrdiff_t linePixels = Bytes > 8 ? 8 : (Bytes % 3 ? 64 : 96) / 
 
 void fetchLines(const uint8_t* p, ptrdiff_t step, ptrdiff_t bytes, ptrdiff_t rows) {
     for (ptrdiff_t y = 0; y < rows; ++y, p += step)
-        for (ptrdiff_t x = 0; x < bytes; x += 64) _mm_prefetch(reinterpret_cast<const char*>(p + x), _MM_HINT_T0);
+        for (ptrdiff_t x = 0; x < bytes; x += 64) Prefetch(p + x);
 }
 
 // The first pixel and the count of pixels of one tile along one side of a region.
