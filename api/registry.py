@@ -15,6 +15,11 @@ SUBSYSTEMS = [  # header order
     ("arith", "Arithmetic and logic"),
     ("filter", "Filters"),
 ]
+LAYOUTS = {  # names that stand for several layouts; modes follow them: "pixels R IR"
+    "pixels": ("C1", "C3", "C4"),
+    "pixels+alpha": ("C1", "C3", "C4", "AC4"),
+    "complex": ("C1", "C3", "AC4"),
+}
 
 
 @dataclass
@@ -99,7 +104,16 @@ def _members(entry, form):
         prototype = form["prototype"]
         name = prototype.partition("(")[0].split()[-1].lstrip("*")
         return [Member(name, entry["name"], prototype=prototype, call=form["call"])]
-    return [_member(entry, form, types, code) for types in form["types"] for code in form["layouts"]]
+    return [_member(entry, form, types, code) for types in form["types"] for code in _layout_codes(form["layouts"])]
+
+
+def _layout_codes(words):
+    """['pixels R IR', 'C3CR'] -> ['C1R', 'C3R', 'C4R', 'C1IR', 'C3IR', 'C4IR', 'C3CR']"""
+    codes = []
+    for word in words:
+        name, *modes = word.split()
+        codes += [layout + mode for mode in modes for layout in LAYOUTS[name]] if modes else [name]
+    return codes
 
 
 def _member(entry, form, types, code):
