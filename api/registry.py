@@ -71,7 +71,8 @@ class Family:
     name: str
     title: str
     file: str
-    doc: str
+    doc: str                 # see prose.py
+    statuses: list           # in the order in which they are tested; see prose.py
     members: list
 
     @property
@@ -95,7 +96,8 @@ def _families(path):
     families = []
     for entry in data["family"]:
         members = [m for form in entry["form"] for m in _members(entry, form)]
-        families.append(Family(entry["name"], entry.get("title", entry["name"]), entry["file"], entry["doc"].strip(), members))
+        families.append(Family(entry["name"], entry.get("title", entry["name"]), entry["file"], entry["doc"].strip(),
+                               entry.get("statuses", []), members))
     return families
 
 
