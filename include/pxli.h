@@ -1926,7 +1926,7 @@ PxlStatus pxliMulC_32fc_AC4IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDs
  *   PXL_E_NULL_PTR     a pointer is null
  *   PXL_E_SIZE         roiSize.width or roiSize.height < 1
  *   PXL_E_STEP         a step < 1
- *   PXL_E_DIV_BY_ZERO  a value is 0 (a + bi: a*a + b*b is 0)
+ *   PXL_E_DIV_BY_ZERO  a value is 0 (a + bi: a*a + b*b is 0; 32fc: in single precision)
  */
 PxlStatus pxliDivC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep,
     ImageSize roiSize, int scaleFactor);
