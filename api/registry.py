@@ -1,9 +1,11 @@
 """Reads the registry (api/*.toml) and expands its families into members, one per exported function."""
 
+import functools
 import tomllib
 from dataclasses import dataclass
 from pathlib import Path
 
+import loose
 import vocabulary as v
 
 API = Path(__file__).parent
@@ -13,6 +15,11 @@ SUBSYSTEMS = [  # header order
     ("arith", "Arithmetic and logic"),
     ("filter", "Filters"),
 ]
+LAYOUTS = {  # names that stand for several layouts; modes follow them: "pixels R IR"
+    "pixels": ("C1", "C3", "C4"),
+    "pixels+alpha": ("C1", "C3", "C4", "AC4"),
+    "complex": ("C1", "C3", "AC4"),
+}
 
 
 @dataclass
@@ -29,6 +36,9 @@ class Member:
     passed: list | None = None   # the parameters that the template is called with, in its order
     call: str = ""
     bits: bool = False
+    room: str = ""               # the folder of its source, and the namespace of its template
+    targets: tuple = ()          # the names of the targets that it is compiled for
+    loose: bool = False          # its template takes pointers and steps one by one
     prototype: str = ""      # set for members that follow no pattern; they are the same on every target
 
     @property
@@ -47,16 +57,33 @@ class Member:
 
 
 @dataclass
+class Target:
+    name: str
+    title: str
+    vectors: str             # the header of its vector primitives
+    flags: list
+    cpu: list                # what the processor must offer, as __builtin_cpu_supports names it
+    optional: bool = False   # only for forms that ask for it
+
+
+@dataclass
 class Family:
     name: str
     title: str
     file: str
-    doc: str
+    doc: str                 # see prose.py
+    statuses: list           # in the order in which they are tested; see prose.py
     members: list
 
     @property
     def source_id(self):
         return self.file.removesuffix(".cpp")
+
+
+@functools.cache
+def targets():
+    """The targets, from the one that every processor has to the best."""
+    return [Target(**entry) for entry in tomllib.loads((API / "targets.toml").read_text())["target"]]
 
 
 def load():
@@ -68,31 +95,47 @@ def _families(path):
     data = tomllib.loads(path.read_text())
     families = []
     for entry in data["family"]:
-        members = [m for form in entry["form"] for m in _members(entry["name"], form)]
-        families.append(Family(entry["name"], entry.get("title", entry["name"]), entry["file"], entry["doc"].strip(), members))
+        members = [m for form in entry["form"] for m in _members(entry, form)]
+        families.append(Family(entry["name"], entry.get("title", entry["name"]), entry["file"], entry["doc"].strip(),
+                               entry.get("statuses", []), members))
     return families
 
 
-def _members(family, form):
+def _members(entry, form):
     if "layouts" not in form:
         prototype = form["prototype"]
         name = prototype.partition("(")[0].split()[-1].lstrip("*")
-        return [Member(name, family, prototype=prototype, call=form["call"])]
-    return [_member(family, form, types, code) for types in form["types"] for code in form["layouts"]]
+        return [Member(name, entry["name"], prototype=prototype, call=form["call"])]
+    return [_member(entry, form, types, code) for types in form["types"] for code in _layout_codes(form["layouts"])]
 
 
-def _member(family, form, types, code):
+def _layout_codes(words):
+    """['pixels R IR', 'C3CR'] -> ['C1R', 'C3R', 'C4R', 'C1IR', 'C3IR', 'C4IR', 'C3CR']"""
+    codes = []
+    for word in words:
+        name, *modes = word.split()
+        codes += [layout + mode for mode in modes for layout in LAYOUTS[name]] if modes else [name]
+    return codes
+
+
+def _member(entry, form, types, code):
+    family = entry["name"]
     src, dst = v.split_types(types)
     layout, mode = v.split_layout(code)
     src_side, dst_side = v.parse_layout(layout)
     member = Member(f"pxli{family}_{types}_{code}", family, src, dst, layout, mode, src_side, dst_side,
                     bits=form.get("bits", False))
     names = _placeholders(member)
-    member.call = form["call"].format(**names)
     if "prototype" in form:
+        member.call = form["call"].format(**names)
         member.prototype = form["prototype"].format(**names)
-    else:
-        member.params, member.passed = _parameters(member, form["args"])
+        return member
+    member.room = entry["file"].partition("/")[0]
+    member.targets = tuple(t.name for t in targets() if not t.optional or t.name in form.get("targets", ()))
+    loose_call = loose.CALLS.get(entry["file"], {}).get(form["call"])
+    member.loose = loose_call is not None
+    member.call = (loose_call or form["call"]).format(**names)
+    member.params, member.passed = _parameters(member, form["args"])
     return member
 
 

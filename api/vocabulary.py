@@ -42,6 +42,8 @@ SCALARS = {"int": "int", "uint": "uint32_t", "float": "float", "double": "double
 NAMED_SCALARS = {"scaleFactor": ("int", "scaleFactor"), "roundMode": ("PxlRoundMode", "roundMode"),
                  "cmpOp": ("PxlCmpOp", "cmpOp"), "interpolation": ("PxlInterpolation", "interpolation")}
 
+IMAGES = ("Source", "Destination", "InPlace", "Inside", "Mask")  # roles whose pointer is followed by a step
+
 TYPE_CODE = re.compile(r"(?:1u|8u|8s|16sc|16uc|16u|16s|24u|32sc|32fc|32u|32s|32f|64s|64f)")
 
 
@@ -93,6 +95,7 @@ class Param:
     side: Layout = field(default_factory=lambda: Layout(1, 1))
     bound: str = "roiSize"
     count: int = 1
+    per_channel: bool = False               # one value, or an array of one per processed channel
 
     @property
     def declaration(self):
@@ -173,8 +176,9 @@ def _per_channel(kind, name, member):
     side = member.dst_side
     element = "32u" if kind == "shift" else member.dst
     if side.channels == 1:
-        return Param(C_TYPES[element], name, "Element", element=element)
-    return Param(f"const {C_TYPES[element]}", name, "Values", f"[{side.channels}]", element, count=side.channels)
+        return Param(C_TYPES[element], name, "Element", element=element, per_channel=True)
+    return Param(f"const {C_TYPES[element]}", name, "Values", f"[{side.channels}]", element, count=side.channels,
+                 per_channel=True)
 
 
 def _array(kind, rest, member):

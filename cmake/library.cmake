@@ -2,6 +2,14 @@
 
 set(PXL_GENERATED ${CMAKE_BINARY_DIR}/generated)
 file(GLOB PXL_API CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/api/*)
+set(PXL_GENERATE ${Python3_EXECUTABLE} -B ${CMAKE_SOURCE_DIR}/api/generate.py)
+
+# What api/targets.toml lists: PXL_KNOWN_TARGETS, and for each its flags, its vectors and the sources that it is limited to.
+execute_process(COMMAND ${PXL_GENERATE} cmake ${PXL_GENERATED}/targets.cmake COMMAND_ERROR_IS_FATAL ANY)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PXL_API})
+include(${PXL_GENERATED}/targets.cmake)
+set(PXL_TARGETS ${PXL_KNOWN_TARGETS} CACHE STRING "The targets to build, in the order of api/targets.toml")
+
 set(PXL_SUBSYSTEMS exchange arith filter)
 set(PXL_FAMILIES)
 foreach(subsystem IN LISTS PXL_SUBSYSTEMS)
@@ -23,8 +31,8 @@ endforeach()
 add_custom_command(
     OUTPUT ${PXL_GENERATED}/stamp
     BYPRODUCTS ${PXL_EXPORT_SOURCES} ${PXL_MEMBER_FILES} ${PXL_GENERATED}/member_table.cpp
-               ${PXL_GENERATED}/pxlimx.map ${PXL_GENERATED}/pxlimx.def
-    COMMAND ${Python3_EXECUTABLE} -B ${CMAKE_SOURCE_DIR}/api/generate.py sources ${PXL_GENERATED}
+               ${PXL_GENERATED}/target_list.h ${PXL_GENERATED}/pxlimx.map ${PXL_GENERATED}/pxlimx.def
+    COMMAND ${PXL_GENERATE} sources ${PXL_GENERATED} ${PXL_TARGETS}
     COMMAND ${CMAKE_COMMAND} -E touch ${PXL_GENERATED}/stamp
     DEPENDS ${PXL_API}
     COMMENT "Generating from the registry")
@@ -42,18 +50,26 @@ function(pxl_objects name)
     target_compile_options(${name} PRIVATE ${PXL_CODE_FLAGS})
 endfunction()
 
-pxl_objects(pxl_sse2 ${PXL_FAMILIES})
-target_compile_definitions(pxl_sse2 PRIVATE PXL_TARGET=sse2 PXL_VECTORS="frame/vec/x86_128.h")
-set(PXL_TARGET_OBJECTS $<TARGET_OBJECTS:pxl_sse2>)
-if(PXL_AVX2)
-    pxl_objects(pxl_avx2 ${PXL_FAMILIES})
-    target_compile_definitions(pxl_avx2 PRIVATE PXL_TARGET=avx2 PXL_VECTORS="frame/vec/x86_256.h")
-    target_compile_options(pxl_avx2 PRIVATE -mavx2)
-    list(APPEND PXL_TARGET_OBJECTS $<TARGET_OBJECTS:pxl_avx2>)
-endif()
+# The code of one target: sources that are compiled into its namespace, over its vectors. The members of an optional target
+# stand in a folder of its name, those of all others beside it.
+function(pxl_target_objects name target)
+    pxl_objects(${name} ${ARGN})
+    target_include_directories(${name} BEFORE PRIVATE ${PXL_GENERATED}/${target})
+    target_compile_definitions(${name} PRIVATE PXL_TARGET=${target} PXL_VECTORS="${PXL_VECTORS_${target}}")
+    target_compile_options(${name} PRIVATE ${PXL_FLAGS_${target}})
+endfunction()
+
+set(PXL_TARGET_OBJECTS)
+foreach(target IN LISTS PXL_TARGETS)
+    set(sources ${PXL_FAMILIES})
+    if(PXL_SOURCES_${target})
+        set(sources ${PXL_SOURCES_${target}})
+    endif()
+    pxl_target_objects(pxl_${target} ${target} ${sources})
+    list(APPEND PXL_TARGET_OBJECTS $<TARGET_OBJECTS:pxl_${target}>)
+endforeach()
 
 pxl_objects(pxl_common ${PXL_EXPORT_SOURCES} frame/memory.cpp frame/version.cpp frame/target.cpp)
-target_compile_definitions(pxl_common PRIVATE $<$<BOOL:${PXL_AVX2}>:PXL_WITH_AVX2>)
 
 add_library(pxlcore SHARED core/pxlcore.cpp)
 target_compile_definitions(pxlcore PRIVATE PXLCORE_BUILD)

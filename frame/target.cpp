@@ -2,13 +2,14 @@
 
 namespace pxl {
 
-bool useAvx2 = false;
+Target target = knownTargets[0].target;
 
 namespace {
 
 __attribute__((constructor)) void chooseTarget() {
     __builtin_cpu_init(); // constructors may run before the compiler runtime's own
-    useAvx2 = __builtin_cpu_supports("avx2");
+    for (const KnownTarget& known : knownTargets)
+        if (known.isOffered()) target = known.target;
 }
 
 } // namespace

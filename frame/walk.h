@@ -11,28 +11,16 @@
 // the last element that it processes in the row.
 #pragma once
 
-#include <cstddef>
-#include <cstdint>
-#include <tuple>
 #include <utility>
 
+#include "frame/image.h"
 #include "pxli.h"
 
 namespace pxl::PXL_TARGET {
 
+// For templates that take pointers and steps one by one.
 template <class T>
-struct Operand {
-    T* base;
-    ptrdiff_t step;       // bytes between rows
-    ptrdiff_t pixelBytes; // bytes between pixels
-
-    static constexpr bool written = !std::is_const_v<T>;
-
-    T* at(ptrdiff_t x, ptrdiff_t y) const {
-        using Byte = std::conditional_t<written, char, const char>;
-        return reinterpret_cast<T*>(reinterpret_cast<Byte*>(base) + y * step + x * pixelBytes);
-    }
-};
+using Operand = Image<T, anyElements>;
 
 // An operand of `elements` elements per pixel; const T is read, T is written.
 template <class T>
@@ -46,16 +34,16 @@ struct Extent {
     bool meets(const Extent& other) const { return begin < other.end && other.begin < end; }
 };
 
-template <class T>
-inline Extent extentOf(const Operand<T>& o, ptrdiff_t width, ptrdiff_t height) {
+template <class I>
+inline Extent extentOf(const I& o, ptrdiff_t width, ptrdiff_t height) {
     const char* first = reinterpret_cast<const char*>(o.base);
     const ptrdiff_t span = (height - 1) * o.step;
     return {first + (span < 0 ? span : 0), first + (span < 0 ? 0 : span) + width * o.pixelBytes};
 }
 
 template <class A, class B>
-inline bool conflict(const Operand<A>& a, const Operand<B>& b, ptrdiff_t width, ptrdiff_t height) {
-    if constexpr (!Operand<A>::written && !Operand<B>::written) return false;
+inline bool conflict(const A& a, const B& b, ptrdiff_t width, ptrdiff_t height) {
+    if constexpr (!A::written && !B::written) return false;
     const void* pa = a.base;
     const void* pb = b.base;
     if (pa == pb && a.step == b.step && a.pixelBytes == b.pixelBytes) return false;
@@ -72,24 +60,32 @@ inline bool anyConflict(ptrdiff_t width, ptrdiff_t height, const A& a, const Res
     return (... || conflict(a, rest, width, height)) || anyConflict(width, height, rest...);
 }
 
+// The row y alone.
+template <class I>
+inline I rowOf(I o, ptrdiff_t y) {
+    o.base = o.at(0, y);
+    o.step = 0;
+    return o;
+}
+
 // Whether a row conflicts once every operand stands at row y.
-template <class... T>
-inline bool rowConflict(ptrdiff_t width, ptrdiff_t y, const Operand<T>&... o) {
-    return anyConflict(width, 1, Operand<T>{o.at(0, y), 0, o.pixelBytes}...);
+template <class... I>
+inline bool rowConflict(ptrdiff_t width, ptrdiff_t y, const I&... o) {
+    return anyConflict(width, 1, rowOf(o, y)...);
 }
 
 // Rows of operands that overlap somewhere. A function of its own: in line, it would take registers from the loop that
 // nearly all calls run.
-template <class Kernel, class... T>
-[[gnu::noinline]] void walkOverlapping(ptrdiff_t width, ptrdiff_t height, Kernel kernel, Operand<T>... o) {
+template <class Kernel, class... I>
+[[gnu::noinline]] void walkOverlapping(ptrdiff_t width, ptrdiff_t height, Kernel kernel, I... o) {
     for (ptrdiff_t y = 0; y < height; ++y) {
         const ptrdiff_t run = rowConflict(width, y, o...) ? 1 : width;
         for (ptrdiff_t x = 0; x < width; x += run) kernel(run, o.at(x, y)...);
     }
 }
 
-template <class Kernel, class... T>
-inline void walkRows(ptrdiff_t width, ptrdiff_t height, Kernel&& kernel, Operand<T>... o) {
+template <class Kernel, class... I>
+inline void walkRows(ptrdiff_t width, ptrdiff_t height, Kernel&& kernel, I... o) {
     if (anyConflict(width, height, o...)) return walkOverlapping(width, height, kernel, o...);
     if ((... && (o.step == width * o.pixelBytes))) {
         width *= height;
@@ -101,15 +97,15 @@ inline void walkRows(ptrdiff_t width, ptrdiff_t height, Kernel&& kernel, Operand
     }
 }
 
-template <class Kernel, class... T>
-inline void walk(ImageSize roi, Kernel&& kernel, Operand<T>... operands) {
-    walkRows(roi.width, roi.height, std::forward<Kernel>(kernel), operands...);
+template <class Kernel, class... I>
+inline void walk(ImageSize roi, Kernel&& kernel, I... images) {
+    walkRows(roi.width, roi.height, std::forward<Kernel>(kernel), images...);
 }
 
 // Channels treated alike: the region is walked as elements, `channels` times as wide.
-template <class Kernel, class... T>
-inline void walkElements(ImageSize roi, int channels, Kernel&& kernel, Operand<T>... operands) {
-    walkRows(static_cast<ptrdiff_t>(roi.width) * channels, roi.height, std::forward<Kernel>(kernel), operands...);
+template <class Kernel, class... I>
+inline void walkElements(ImageSize roi, int channels, Kernel&& kernel, I... images) {
+    walkRows(static_cast<ptrdiff_t>(roi.width) * channels, roi.height, std::forward<Kernel>(kernel), images...);
 }
 
 } // namespace pxl::PXL_TARGET

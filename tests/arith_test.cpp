@@ -67,7 +67,7 @@ private:
         for (size_t i = 0; i < own.size(); ++i) args[7 + i].num = own[i];
         const reference::Member member{"", family, type_, type_, "C1", "RSfs"};
         const int32_t status = reference::find(family)(member, args);
-        for (const Target& target : availableTargets()) {
+        for (const pxl::KnownTarget& target : availableTargets()) {
             const TargetScope scope(target);
             EXPECT_EQ(call(actual.data()), status) << target.name << " " << family;
             const auto at = std::ranges::mismatch(expected, actual).in1 - expected.begin();
@@ -135,7 +135,7 @@ TEST(Corners, Of16s) {
 
 // The one imaginary sum that does not fit 32 bits, and products near the ends of 64 bits.
 TEST(Corners, OfComplexProducts) {
-    for (const Target& target : availableTargets()) {
+    for (const pxl::KnownTarget& target : availableTargets()) {
         const TargetScope scope(target);
         const Pxl16sc low{-32768, -32768};
         Pxl16sc product;
@@ -156,7 +156,7 @@ TEST(Division, SpecialValuesOf32f) {
     const float divisor[] = {0.0f, -0.0f, 0.0f, -0.0f, 0.0f, nan, infinity, 2.0f};
     const float dividend[] = {1.0f, 1.0f, -1.0f, 0.0f, nan, 1.0f, 5.0f, 3.0f};
     const uint32_t expected[] = {0x7F800000, 0x7F800000, 0xFF800000, 0xFFC00000, 0xFFC00000, 0x7FC00000, 0, 0x3FC00000};
-    for (const Target& target : availableTargets()) {
+    for (const pxl::KnownTarget& target : availableTargets()) {
         const TargetScope scope(target);
         float quotient[8];
         EXPECT_EQ(pxliDiv_32f_C1R(divisor, 32, dividend, 32, quotient, 32, {8, 1}), PXL_W_DIV_BY_ZERO);

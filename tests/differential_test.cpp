@@ -70,7 +70,7 @@ int32_t Differential::compare(const Call& call, Random& random) {
     const int32_t status = reference::find(call.member->family)(*call.member, referenceArgs.data());
     static constexpr int teams[] = {1, 2, 3, 8};
     threads_omp_of_n_pxl = teams[generic::between(random, 0, 3)];
-    for (const Target& target : availableTargets()) {
+    for (const pxl::KnownTarget& target : availableTargets(*call.member)) {
         const TargetScope scope(target);
         SCOPED_TRACE(testing::Message() << target.name << ": " << call.describe());
         copy(start(), actual(), call);

@@ -15,7 +15,7 @@
 
 namespace {
 
-class EveryTarget : public testing::TestWithParam<Target> {
+class EveryTarget : public testing::TestWithParam<pxl::KnownTarget> {
     TargetScope scope_{GetParam()};
 };
 
@@ -207,7 +207,7 @@ TEST_P(EveryTarget, RowOffsetsAre64Bit) {
     std::free(memory);
 }
 
-INSTANTIATE_TEST_SUITE_P(, EveryTarget, testing::ValuesIn(availableTargets().begin(), availableTargets().end()),
+INSTANTIATE_TEST_SUITE_P(, EveryTarget, testing::ValuesIn(availableTargets()),
                          [](const auto& target) { return std::string(target.param.name); });
 
 } // namespace

@@ -103,7 +103,7 @@ const std::pair<const char*, Runner> exactRuns[] = {
 constexpr ImageSize sizes[] = {{64, 64}, {65, 64}, {63, 100}, {200, 100}, {90, 67}, {2100, 3}};
 
 TEST(Parallel, EveryTeamGivesTheSameBytes) {
-    for (const Target& target : availableTargets()) {
+    for (const pxl::KnownTarget& target : availableTargets()) {
         const TargetScope scope(target);
         for (const auto& [name, call] : exactRuns)
             for (const ImageSize size : sizes) {

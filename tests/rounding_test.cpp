@@ -52,7 +52,7 @@ int64_t rounded(float v, int mode) {
 template <class S, class D>
 void compare(const std::vector<S>& values, auto convert, auto expected) {
     const auto width = static_cast<int>(values.size());
-    for (const Target& target : availableTargets()) {
+    for (const pxl::KnownTarget& target : availableTargets()) {
         const TargetScope scope(target);
         std::vector<D> results(values.size());
         ASSERT_EQ(convert(values.data(), width * static_cast<int>(sizeof(S)), results.data(),

@@ -1,32 +1,35 @@
-// Forces an instruction set for the length of a scope. Tests are linked with the library's objects, not with the shared
-// library, so that they can reach its choice.
+// Forces a target for the length of a scope. Tests are linked with the library's objects, not with the shared library, so that
+// they can reach its choice.
 #pragma once
 
-#include <span>
+#include <string_view>
+#include <vector>
 
 #include "frame/target.h"
+#include "generic/member.h"
 
-struct Target {
-    const char* name;
-    bool avx2;
-};
+// The targets of this build that run on this processor.
+inline std::vector<pxl::KnownTarget> availableTargets() {
+    std::vector<pxl::KnownTarget> available;
+    for (const pxl::KnownTarget& known : pxl::knownTargets)
+        if (known.isOffered()) available.push_back(known);
+    return available;
+}
 
-inline std::span<const Target> availableTargets() {
-    static constexpr Target all[] = {{"sse2", false}, {"avx2", true}};
-#ifdef PXL_WITH_AVX2
-    return {all, __builtin_cpu_supports("avx2") ? size_t{2} : size_t{1}};
-#else
-    return {all, 1};
-#endif
+// Those that a member has code of its own for.
+inline std::vector<pxl::KnownTarget> availableTargets(const generic::Member& member) {
+    std::vector<pxl::KnownTarget> available = availableTargets();
+    std::erase_if(available, [&](const pxl::KnownTarget& t) { return !member.runsOn(t.name); });
+    return available;
 }
 
 class TargetScope {
 public:
-    explicit TargetScope(const Target& target) : before_(pxl::useAvx2) { pxl::useAvx2 = target.avx2; }
-    ~TargetScope() { pxl::useAvx2 = before_; }
+    explicit TargetScope(const pxl::KnownTarget& known) : before_(pxl::target) { pxl::target = known.target; }
+    ~TargetScope() { pxl::target = before_; }
     TargetScope(const TargetScope&) = delete;
     TargetScope& operator=(const TargetScope&) = delete;
 
 private:
-    bool before_;
+    pxl::Target before_;
 };

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <span>
+#include <string>
 
 #include "reference/reference.h"
 
@@ -43,8 +44,12 @@ struct Member : reference::Member {
     const Param* params;
     int count;
     int32_t (*call)(const reference::Arg*);
+    std::string_view targets; // the names of those that it is compiled for, with spaces between
 
     std::span<const Param> parameters() const { return {params, static_cast<size_t>(count)}; }
+    bool runsOn(std::string_view target) const {
+        return (' ' + std::string(targets) + ' ').find(' ' + std::string(target) + ' ') != std::string::npos;
+    }
     // The position of the parameter of that name, or -1.
     int find(std::string_view parameter) const {
         for (int i = 0; i < count; ++i)

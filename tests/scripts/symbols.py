@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
 """Symbols of a build, ELF or PE: a shared library exports the names of its header and nothing else, it needs no other library
-than it may, and no object compiled for AVX2 holds code outside its namespace that the linker could pick for everybody.
+than it may, and no object compiled for a target holds code outside its namespace that the linker could pick for everybody.
 
     symbols.py exports LIBRARY HEADER
     symbols.py needs LIBRARY...
-    symbols.py leaks OBJECT...
+    symbols.py leaks TARGET OBJECT...
 """
 
 import re
@@ -52,12 +52,12 @@ def needs(*libraries):
     return problems
 
 
-def leaks(*objects):
+def leaks(target, *objects):
     problems = []
     for path in objects:
         for row in nm("--defined-only", path):
             kind, name = row[-2], row[-1]
-            if kind in "TWVuDBR" and not re.match(r"_Z[A-Z]*3pxl4avx2|DW\.ref\.|\.refptr\.", name):
+            if kind in "TWVuDBR" and not re.match(rf"_Z[A-Z]*3pxl{len(target)}{target}|DW\.ref\.|\.refptr\.", name):
                 problems.append(f"{path}: {kind} {name}")
     return problems
 
