@@ -9,24 +9,13 @@
 namespace pxl::PXL_TARGET {
 namespace {
 
-// Short rows are copied in line: the call would cost as much as the copy.
-PXL_INLINE void copyBytes(uint8_t* d, const uint8_t* s, ptrdiff_t n) {
-    if (n < 32) return copyFew<32>(d, s, static_cast<size_t>(n));
-    if (n > 64) return static_cast<void>(std::memmove(d, s, static_cast<size_t>(n)));
-    // Both ends of the row, as two runs of 32 bytes that may overlap.
-    const Vec<uint8_t> ends[] = {LoadU(s), LoadU(s + 32 - vecBytes), LoadU(s + n - 32), LoadU(s + n - vecBytes)};
-    StoreU(ends[0], d);
-    StoreU(ends[1], d + 32 - vecBytes);
-    StoreU(ends[2], d + n - 32);
-    StoreU(ends[3], d + n - vecBytes);
-}
-
-void streamBytes(uint8_t* d, const uint8_t* s, ptrdiff_t n) {
+void streamRow(const uint8_t* s, uint8_t* d, ptrdiff_t n) {
     ptrdiff_t x = 0;
-    for (; x + 128 <= n; x += 128)
+    constexpr int run = 2 * lineBytes;
+    for (; x + run <= n; x += run)
 #pragma GCC unroll 8
-        for (int i = 0; i < 128; i += vecBytes) Streamed::store(LoadU(s + x + i), d + x + i);
-    copyBytes(d + x, s + x, n - x);
+        for (int i = 0; i < run; i += vecBytes) Streamed::store(LoadU(s + x + i), d + x + i);
+    copyRow(s + x, d + x, n - x);
 }
 
 template <class T, int Channels>
@@ -38,15 +27,15 @@ PxlStatus CopyElements(const T* src, int srcStep, T* dst, int dstStep, ImageSize
     const auto walkBytes = [&](auto copy) {
         const auto row = [=](ptrdiff_t n, const T* from, T* to) {
             const auto* sourceBytes = reinterpret_cast<const uint8_t*>(from);
-            copy(reinterpret_cast<uint8_t*>(to), sourceBytes, n * static_cast<ptrdiff_t>(sizeof(T)));
+            copy(sourceBytes, reinterpret_cast<uint8_t*>(to), n * static_cast<ptrdiff_t>(sizeof(T)));
         };
         walkElements(roi, Channels, row, s, d);
     };
     const bool streamed = src != dst && isStreamed(ptrdiff_t{roi.width} * Channels, roi.height, s, d);
     if (streamed)
-        walkBytes(streamBytes);
+        walkBytes(streamRow);
     else
-        walkBytes([](auto... row) { copyBytes(row...); });
+        walkBytes([](auto... row) { copyRow(row...); });
     finishStreamed(streamed);
     return PXL_OK;
 }

@@ -126,8 +126,7 @@ constexpr int fetchedParts = 8;
 template <int P, class T, int Planes>
 PXL_INLINE void splitPart(const T* s, T* const (&d)[Planes], ptrdiff_t x) {
     Vec<T> v[Planes];
-    loadPixels<P>(s + x * Planes, v);
-    deinterleave(v);
+    LoadInterleaved<P>(s + x * Planes, v);
 #pragma GCC unroll 4
     for (int p = 0; p < Planes; ++p) StoreFirst<P>(v[p], d[p] + x);
 }
@@ -139,10 +138,7 @@ PXL_INLINE void streamSplitLines(const T* s, T* const (&d)[Planes], ptrdiff_t x)
     constexpr int parts = lineBytes / vecBytes;
     Vec<T> v[parts][Planes];
 #pragma GCC unroll 4
-    for (int i = 0; i < parts; ++i) {
-        loadPixels<most>(s + (x + i * most) * Planes, v[i]);
-        deinterleave(v[i]);
-    }
+    for (int i = 0; i < parts; ++i) LoadInterleaved<most>(s + (x + i * most) * Planes, v[i]);
 #pragma GCC unroll 4
     for (int p = 0; p < Planes; ++p)
 #pragma GCC unroll 4
@@ -185,8 +181,7 @@ PXL_INLINE void mergePart(const T* const (&s)[Planes], T* d, ptrdiff_t x) {
     Vec<T> v[Planes];
 #pragma GCC unroll 4
     for (int p = 0; p < Planes; ++p) v[p] = LoadFirst<P>(s[p] + x);
-    interleave(v);
-    storePixels<P, Stores>(v, d + x * Planes);
+    StoreInterleaved<P, Stores>(v, d + x * Planes);
 }
 
 template <class T, int Planes>

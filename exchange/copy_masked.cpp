@@ -21,7 +21,7 @@ PxlStatus copyMasked(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep,
 }
 
 template <int E>
-void copyRow(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m) {
+void copyMaskedRow(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m) {
     blendRow<E>(n, m, d, RowSource{s});
 }
 
@@ -29,7 +29,7 @@ template <class T, int Elements>
 PxlStatus CopyMasked(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const uint8_t* mask, int maskStep) {
     constexpr int E = Elements * sizeof(T);
     return copyMasked(reinterpret_cast<const uint8_t*>(src), srcStep, reinterpret_cast<uint8_t*>(dst), dstStep, roi,
-                      mask, maskStep, E, copyRow<E>);
+                      mask, maskStep, E, copyMaskedRow<E>);
 }
 
 template <int E>

@@ -76,6 +76,17 @@ PxlStatus SetColour(const T* value, T* dst, int dstStep, ImageSize roi) {
     return PXL_OK;
 }
 
+// All ones behind the first First bytes of every pixel.
+template <int E, int First>
+struct BytesBehind {
+    alignas(vecBytes) uint8_t bytes[Pattern<E>::count * vecBytes];
+    constexpr BytesBehind() : bytes{} {
+        for (int k = 0; k < Pattern<E>::count * vecBytes; ++k) bytes[k] = k % E >= First ? 0xFF : 0;
+    }
+};
+template <int E, int First>
+inline constexpr BytesBehind<E, First> bytesBehind;
+
 // The pointer stands at the chosen channel, so the last pixel of a row may end right behind it.
 template <class T, int Elements>
 PxlStatus SetChannel(T value, T* dst, int dstStep, ImageSize roi) {
@@ -86,7 +97,7 @@ PxlStatus SetChannel(T value, T* dst, int dstStep, ImageSize roi) {
     const Pattern<E> channel = patternOf<E>(pixel);
     const auto row = [&](ptrdiff_t n, uint8_t* d) {
         const ptrdiff_t before = (n - 1) * E;
-        fillPixels(d, before, channel, maskPattern<E, sizeof(T), E>());
+        fillPixels(d, before, channel, loadPattern<E>(bytesBehind<E, sizeof(T)>.bytes));
         store1(reinterpret_cast<T*>(d + before), value);
     };
     walk(roi, row, operand(bytesOf(dst), dstStep, E));
