@@ -1,0 +1,96 @@
+// Rows of results: how they are filled in blocks, and how an alpha element in them stays.
+//
+// Alpha elements are computed like all others and then replaced by what the destination held.
+#pragma once
+
+#include "frame/parallel.h"
+#include "frame/vec.h"
+#include "frame/vec_convert.h"
+#include "window/geometry.h"
+
+namespace pxl::PXL_TARGET::window {
+
+// Calls block(x) for blocks of Count elements that fill a row of n >= Count; the last one ends with the row. The call
+// stands once, so that it is inlined.
+template <int Count, class Block>
+PXL_INLINE void forEachBlockOfRow(ptrdiff_t n, const Block& block) {
+    const ptrdiff_t last = n - Count;
+    for (ptrdiff_t x = 0;; x = x + Count < last ? x + Count : last) {
+        block(x);
+        if (x == last) return;
+    }
+}
+
+// ---- destinations ---------------------------------------------------------------------------------------------------
+
+// All ones in the fourth element of every pixel, wherever in a pixel a vector begins.
+template <class T>
+struct AlphaLanes {
+    MaskLane<T> lane[lanes<T> + 3];
+    constexpr AlphaLanes() : lane{} {
+        for (int i = 0; i < lanes<T> + 3; ++i) lane[i] = i % 4 == 3 ? static_cast<MaskLane<T>>(~MaskLane<T>{0}) : 0;
+    }
+};
+template <class T>
+inline constexpr AlphaLanes<T> alphaLanesOf;
+
+template <class T>
+struct DestinationRow {
+    T* row;
+    bool keepsAlpha;
+
+    template <int Count>
+    PXL_INLINE void store(Vec<T> v, ptrdiff_t x) const {
+        if (keepsAlpha) [[unlikely]]
+            v = withAlpha(v, LoadFirst<Count>(row + x), x);
+        StoreFirst<Count>(v, row + x);
+    }
+    // n lanes, fewer than a register.
+    PXL_INLINE void storeFew(Vec<T> v, ptrdiff_t x, ptrdiff_t n) const {
+        if (keepsAlpha) v = withAlpha(v, LoadN(static_cast<const T*>(row + x), n), x);
+        StoreN(v, row + x, n);
+    }
+    // n results that were put together elsewhere.
+    [[gnu::noinline]] void copy(const T* s, ptrdiff_t x, ptrdiff_t n) const {
+        if (n < lanes<T>) return storeFew(LoadN(s, n), x, n);
+        forEachBlockOfRow<lanes<T>>(n, [&](ptrdiff_t i) { store<lanes<T>>(LoadU(s + i), x + i); });
+    }
+
+private:
+    PXL_INLINE static Vec<T> withAlpha(Vec<T> v, Vec<T> old, ptrdiff_t x) {
+        return IfThenElse(LoadU(alphaLanesOf<T>.lane + (x & 3)), old, v);
+    }
+};
+
+// An image of results, whatever its layout.
+template <class T>
+struct Destination {
+    T* base;
+    ptrdiff_t step; // bytes from row to row
+    bool keepsAlpha;
+
+    Destination(T* first, ptrdiff_t rowStep, bool keeps) : base(first), step(rowStep), keepsAlpha(keeps) {}
+    template <int Elements, int Channels>
+    Destination(const Image<T, Elements, Channels>& image) : Destination(image.base, image.step, Channels < Elements) {}
+
+    DestinationRow<T> row(ptrdiff_t y) const { return {byBytes(base, y * step), keepsAlpha}; }
+    // What begins with row y.
+    Destination from(ptrdiff_t y) const { return {byBytes(base, y * step), step, keepsAlpha}; }
+};
+
+// ---- regions --------------------------------------------------------------------------------------------------------
+
+// Calls row(first sample of the first window, destination) for rows first ... first + rows - 1.
+template <class T, class Row>
+PXL_INLINE void forEachRow(const Windows<T>& windows, const Destination<T>& dst, ptrdiff_t first, ptrdiff_t rows,
+                           const Row& row) {
+    for (ptrdiff_t y = first; y < first + rows; ++y) row(windows.row(y), dst.row(y));
+}
+
+// The same for the whole region, in strips that may run side by side.
+template <class T, class Row>
+inline void forEachRowByTeam(const Windows<T>& windows, const Destination<T>& dst, const Row& row) {
+    forEachStrip(windows.region, [&](int first, int rows) { forEachRow(windows, dst, first, rows, row); });
+}
+
+} // namespace pxl::PXL_TARGET::window
