@@ -11,7 +11,7 @@
 #include "frame/vec_filter.h"
 #include "pxli.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::filter {
 
 template <class T>
 inline constexpr int largestOf = std::is_signed_v<T> ? (1 << (8 * sizeof(T) - 1)) - 1 : (1 << 8 * sizeof(T)) - 1;
@@ -174,4 +174,4 @@ private:
     Quotients quotients_;
 };
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter

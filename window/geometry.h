@@ -3,7 +3,7 @@
 // Rows are seen as elements, which are treated alike whatever the layout: the sample beside another one in a window
 // stands a pixel's elements beside it. Row y of the results needs the source rows y ... y + height - 1, counted from the
 // first row of the first window, and of each the elements 0 ... columns - 1, counted from its first column. AC4 rows end
-// with the third element of their last pixel, which keeps every load within what the caller must supply.
+// with the third element of their last pixel: no more of them may be read.
 #pragma once
 
 #include "frame/image.h"
@@ -50,12 +50,13 @@ struct Windows {
     ptrdiff_t above;      // rows of a window above its pixel
     ImageSize region;     // pixels with a window
     ptrdiff_t outputs;    // elements of a row of results
+    ptrdiff_t processed;  // the same without the alpha of the last pixel
     ptrdiff_t columns;    // elements of a source row that windows reach
 
     Windows(Image<const T, anyElements> src, bool hasAlpha, ImageSize roi, Shape shape)
         : first(src.at(-shape.left, -shape.above)), step(src.step), pixelBytes(src.pixelBytes), width(shape.width),
-          height(shape.height), above(shape.above), region(roi), outputs(roi.width * elements() - hasAlpha),
-          columns(outputs + (width - 1) * elements()) {}
+          height(shape.height), above(shape.above), region(roi), outputs(roi.width * elements()),
+          processed(outputs - hasAlpha), columns(processed + (width - 1) * elements()) {}
 
     ptrdiff_t elements() const { return pixelBytes / static_cast<ptrdiff_t>(sizeof(T)); }
 

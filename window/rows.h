@@ -45,22 +45,32 @@ struct DestinationRow {
             v = withAlpha(v, LoadFirst<Count>(row + x), x);
         StoreFirst<Count>(v, row + x);
     }
-    // n lanes, fewer than a register.
-    PXL_INLINE void storeFew(Vec<T> v, ptrdiff_t x, ptrdiff_t n) const {
-        if (keepsAlpha) v = withAlpha(v, LoadN(static_cast<const T*>(row + x), n), x);
-        StoreN(v, row + x, n);
+    // n lanes, fewer than a register, at the start of the row.
+    PXL_INLINE void storeFew(Vec<T> v, ptrdiff_t n) const {
+        if (keepsAlpha) v = withAlpha(v, LoadN(static_cast<const T*>(row), n), 0);
+        StoreN(v, row, n);
     }
-    // n results that were put together elsewhere.
-    [[gnu::noinline]] void copy(const T* s, ptrdiff_t x, ptrdiff_t n) const {
-        if (n < lanes<T>) return storeFew(LoadN(s, n), x, n);
-        forEachBlockOfRow<lanes<T>>(n, [&](ptrdiff_t i) { store<lanes<T>>(LoadU(s + i), x + i); });
-    }
+    // What begins with element x, the first one of a pixel.
+    DestinationRow from(ptrdiff_t x) const { return {row + x, keepsAlpha}; }
 
 private:
     PXL_INLINE static Vec<T> withAlpha(Vec<T> v, Vec<T> old, ptrdiff_t x) {
         return IfThenElse(LoadU(alphaLanesOf<T>.lane + (x & 3)), old, v);
     }
 };
+
+// n results that were put together elsewhere.
+template <class T>
+[[gnu::noinline]] void copyRow(const T* s, DestinationRow<T> d, ptrdiff_t n) {
+    constexpr int step = lanes<T>;
+    if (n < step) return d.storeFew(LoadN(s, n), n);
+    ptrdiff_t x = 0;
+    for (; x + step <= n; x += step) {
+        const Vec<T> v = LoadU(s + x);
+        StoreU(d.keepsAlpha ? KeepEveryFourth<3>(LoadU(d.row + x), v) : v, d.row + x);
+    }
+    if (x < n) d.template store<step>(LoadU(s + n - step), n - step);
+}
 
 // An image of results, whatever its layout.
 template <class T>

@@ -60,7 +60,7 @@ public:
     // Writes back what may be, once all rows above `finished` have their results.
     void writeBack(ptrdiff_t finished) {
         const ptrdiff_t end = finished == height_ ? height_ : finished - above_; // windows to come begin with this row
-        for (; written_ < end; ++written_) image_.row(written_).copy(from(written_).base, 0, outputs_);
+        for (; written_ < end; ++written_) copyRow<T>(from(written_).base, image_.row(written_), outputs_);
     }
 
 private:
