@@ -120,39 +120,4 @@ CALLS = {
         "Transpose": "Transpose<{D}, {elements}>",
         "TransposeInPlace": "TransposeInPlace<{D}, {elements}>",
     },
-    "filter/filter.cpp": {
-        "Filter": "Filter<{S}, {elements}, {channels}>",
-        "FilterFloat": "FilterFloat<{S}, {elements}, {channels}>",
-    },
-    "filter/filter_64f.cpp": {
-        "filter64f": "ownFilter64f",
-        "filterBufSize64f": "ownFilterBufSize64f",
-    },
-    "filter/filter_32f.cpp": {
-        "Filter32f": "Filter32f<{S}, {elements}, {channels}>",
-    },
-    "filter/filter_round_int.cpp": {
-        "FilterRound": "FilterRound<{S}, {elements}, {channels}>",
-    },
-    "filter/filter_round_32f.cpp": {
-        "FilterRound32f": "FilterRound32f<{S}, {elements}, {channels}>",
-    },
-    "filter/filter_row.cpp": {
-        "FilterRow": "FilterRow<{S}, {elements}, {channels}>",
-        "FilterRowFloat": "FilterRowFloat<{S}, {elements}, {channels}>",
-        "FilterRow32f": "FilterRow32f<{S}, {elements}, {channels}>",
-    },
-    "filter/filter_column.cpp": {
-        "FilterColumn": "FilterColumn<{S}, {elements}, {channels}>",
-        "FilterColumnFloat": "FilterColumnFloat<{S}, {elements}, {channels}>",
-        "FilterColumn32f": "FilterColumn32f<{S}, {elements}, {channels}>",
-    },
-    "filter/box.cpp": {
-        "FilterBox": "FilterBox<{S}, {elements}, {channels}>",
-        "FilterBoxInPlace": "FilterBoxInPlace<{S}, {elements}, {channels}>",
-    },
-    "filter/sum_window.cpp": {
-        "SumWindowRow": "SumWindowRow<{S}, {elements}>",
-        "SumWindowColumn": "SumWindowColumn<{S}, {elements}>",
-    },
 }

@@ -4,7 +4,11 @@
 
 #include "frame/vec/vec.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::filter {
+
+// Adds to 16s samples what makes every sum non-negative.
+template <class T>
+inline constexpr uint32_t boxBias = std::is_same_v<T, int16_t> ? 32768 : 0;
 
 // 8u up to this mask area: by multiplication and shift.
 inline constexpr int32_t boxIntegerArea = 8100;
@@ -118,4 +122,4 @@ struct BoxMean32f {
     PXL_INLINE Vec<float> operator()(Vec<float> sum) const { return sum * reciprocal; }
 };
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter

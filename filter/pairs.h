@@ -11,11 +11,11 @@
 
 #include "filter/sums.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::filter {
 
 enum class Pairing { none, words, bytes };
 
-// Two taps as bytes from the pixel, and their coefficients as one word to be repeated over a register.
+// Two taps as bytes from the first one of a window, and their coefficients as one word to be repeated over a register.
 struct TapPair {
     int32_t first, second;
     uint32_t coefficients;
@@ -53,7 +53,7 @@ public:
 
     template <class T>
     TapPairs(const Filtering<T, int32_t>& f, int shift) {
-        const Coefficients all(f.kernel, int64_t{f.size.width} * f.size.height);
+        const Coefficients all(f.kernel, f.taps());
         if (!all.fit16() || all.nonZero > 2 * capacity || !offsetsFit(f)) return;
         const bool bytes = sizeof(T) == 1 && all.sumsFit16() && shift <= 16;
         pairing_ = bytes ? Pairing::bytes : Pairing::words;
@@ -69,21 +69,21 @@ public:
     const TapPair* end() const { return pairs_ + count_; }
 
 private:
+    // The largest of them; steps are positive here.
     template <class T>
     static bool offsetsFit(const Filtering<T, int32_t>& f) {
-        const auto fits = [](ptrdiff_t offset) { return offset >= INT32_MIN && offset <= INT32_MAX; };
-        return fits(f.offset(0, 0)) && fits(f.offset(f.size.width - 1, f.size.height - 1));
+        return f.windows.offset(f.windows.width - 1, f.windows.height - 1) <= INT32_MAX;
     }
 
     template <class T>
     void collect(const Filtering<T, int32_t>& f, bool bytes) {
         const int32_t* k = f.lastCoefficient();
         bool whole = true;
-        for (int j = 0; j < f.size.height; ++j)
-            for (int i = 0; i < f.size.width; ++i, --k) {
+        for (int j = 0; j < f.windows.height; ++j)
+            for (int i = 0; i < f.windows.width; ++i, --k) {
                 const int32_t coefficient = load1(k);
                 if (coefficient == 0) continue;
-                append(static_cast<int32_t>(f.offset(i, j)), static_cast<uint32_t>(coefficient), bytes, whole);
+                append(static_cast<int32_t>(f.windows.offset(i, j)), static_cast<uint32_t>(coefficient), bytes, whole);
                 whole = !whole;
             }
     }
@@ -281,24 +281,21 @@ PXL_INLINE void bytePairsBlock(const uint8_t* s, DestinationRow<uint8_t> d, ptrd
 
 // ---- integer kernels ------------------------------------------------------------------------------------------------
 
-template <class T, class Row>
-inline void filterByRows(const Filtering<T, int32_t>& f, const Row& row) {
-    filterRegion(f, [&](int first, int rows) { forEachRow(f, first, rows, row); });
-}
-
 // Any integer kernel, with a result that knows the divisor.
 template <class T>
-[[gnu::noinline]] void filterIntegers(const Filtering<T, int32_t>& f, const IntegerResult<T>& result) {
-    const ptrdiff_t n = f.rowElements();
+[[gnu::noinline]] void filterIntegers(const Operands<T, int32_t>& operands, const IntegerResult<T>& result) {
+    const Filtering<T, int32_t> f(operands);
+    const ptrdiff_t n = f.windows.processed;
     if (n < wordBlock) return filterBySums<IntegerSums<T>>(f, result);
     const TapPairs taps(f, result.shift());
     if (taps.pairing() == Pairing::none) return filterBySums<IntegerSums<T>>(f, result);
+    const auto byRows = [&](const auto& row) { window::forEachRowByTeam(f.windows, f.dst, row); };
     if constexpr (sizeof(T) == 1)
         if (taps.pairing() == Pairing::bytes) {
             const ByteResult byteResult(result, taps.signedBytes());
-            return filterByRows(f, [&](const T* s, DestinationRow<T> d) { bytePairsRow(n, s, d, taps, byteResult); });
+            return byRows([&](const T* s, DestinationRow<T> d) { bytePairsRow(n, s, d, taps, byteResult); });
         }
-    filterByRows(f, [&](const T* s, DestinationRow<T> d) { wordPairsRow(n, s, d, taps, result); });
+    byRows([&](const T* s, DestinationRow<T> d) { wordPairsRow(n, s, d, taps, result); });
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter

@@ -12,7 +12,7 @@
 #include "frame/vec/vec.h"
 #include "pxli.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::filter {
 
 // ---- floats ---------------------------------------------------------------------------------------------------------
 
@@ -192,4 +192,4 @@ private:
     Quotients quotients_;
 };
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter

@@ -5,7 +5,7 @@
 
 #include "frame/vec/shuffle.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::filter {
 
 template <class Lane>
 inline constexpr int squareSide = lanes<Lane>;
@@ -88,4 +88,4 @@ PXL_INLINE void StoreSquare(Vec<Lane> (&column)[lanes<Lane>], T* dst, ptrdiff_t 
     }
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter
