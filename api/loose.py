@@ -31,19 +31,9 @@ CALLS = {
         "SwapChannels3To4": "SwapChannels3To4<{D}>",
         "SwapChannels4To3": "SwapChannels4To3<{D}>",
     },
-    "exchange/convert.cpp": {
-        "Convert": "Convert<{S}, {D}, {elements}, {channels}>",
-        "ConvertRounded": "ConvertRounded<{D}, {elements}, {channels}>",
-    },
     "exchange/bits.cpp": {
         "ditherToBits": "ownDitherToBits",
         "unpackBits": "ownUnpackBits",
-    },
-    "exchange/scale.cpp": {
-        "ScaleWiden": "ScaleWiden<{D}, {elements}, {channels}>",
-        "ScaleNarrow": "ScaleNarrow<{S}, {elements}, {channels}>",
-        "ScaleToFloat": "ScaleToFloat<{elements}, {channels}>",
-        "ScaleFromFloat": "ScaleFromFloat<{elements}, {channels}>",
     },
     "exchange/border.cpp": {
         "CopyConstBorder": "CopyConstBorder<{D}, {elements}, {channels}>",
