@@ -74,9 +74,9 @@ def as_lanes(param, member, expression):
     return f"reinterpret_cast<{const}{lane}{stars}>({expression})"
 
 
-def passed_argument(param, step, member):
+def passed_argument(param, step, member, read):
     """What the template gets for a parameter: an Image or Planes for a pointer and its step, Values for constants."""
-    const = "const " if param.role in ("Source", "Mask") else ""
+    const = "const " if read else ""
     if param.role in v.IMAGES:
         side, lane, pointer = param.side, lane_type(param, member), as_lanes(param, member, param.name)
         if side.planes:
@@ -93,9 +93,13 @@ def passed_argument(param, step, member):
 
 def passed_arguments(member):
     arguments, params = [], iter(member.passed)
+    images = [p.name for p in member.passed if p.role in v.IMAGES]
     for param in params:
         step = next(params) if param.role in v.IMAGES else None
-        arguments.append(passed_argument(param, step, member))
+        read = param.role in ("Source", "Mask") or images.count(param.name) > 1  # in place, a source first
+        if step:
+            images.remove(param.name)
+        arguments.append(passed_argument(param, step, member, read))
     return ", ".join(arguments)
 
 

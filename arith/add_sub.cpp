@@ -2,37 +2,48 @@
 //
 // 16u members whose results all vanish are to look at the sources before the destination and the region, which no
 // caller can tell from the order of the others.
-#include "arith/checks.h"
 #include "arith/sums.h"
+#include "frame/checks.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 namespace {
 
+// Real members take any step.
 template <class T, int Elements, int Channels>
-PxlStatus Add(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi, int scaleFactor) {
-    return withPair<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi,
-                                        [&](const Region& r) { addRegion<LaneOf<T>>(r, scaleFactor); });
+PxlStatus checkPair(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                    Image<T, Elements, Channels> dst, ImageSize roi) {
+    return check(widenedSize(dst, roi), null(src1, src2, dst), size(roi), onlyIf(isComplex<T>, steps(src1, src2, dst)));
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus Sub(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi, int scaleFactor) {
-    return withPair<Elements, Channels>(src2, step2, src1, step1, dst, dstStep, roi,
-                                        [&](const Region& r) { subtractRegion<LaneOf<T>>(r, scaleFactor); });
+PxlStatus Add(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+              Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
+    if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
+    return add<LaneOf<T>>(pointwise::TwoSources(src1, src2, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus AddFloat(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi) {
-    return withPair<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi,
-                                        [](const Region& r) { run<float>(r, FloatSum{}); });
+PxlStatus Sub(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+              Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
+    if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
+    return subtract<LaneOf<T>>(pointwise::TwoSources(src2, src1, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus SubFloat(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi) {
-    return withPair<Elements, Channels>(src2, step2, src1, step1, dst, dstStep, roi,
-                                        [](const Region& r) { run<float>(r, FloatDifference{}); });
+PxlStatus AddFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                   Image<T, Elements, Channels> dst, ImageSize roi) {
+    if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
+    return pointwise::run<float>(pointwise::TwoSources(src1, src2, dst, roi), FloatSum{});
+}
+
+template <class T, int Elements, int Channels>
+PxlStatus SubFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                   Image<T, Elements, Channels> dst, ImageSize roi) {
+    if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
+    return pointwise::run<float>(pointwise::TwoSources(src2, src1, dst, roi), FloatDifference{});
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith
 
 #include "members/arith/add_sub.inc"

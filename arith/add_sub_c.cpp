@@ -1,38 +1,47 @@
 // Sums and differences of an image and one constant per channel: dst = src + value, dst = src - value, as those of two
 // images.
-#include "arith/checks.h"
 #include "arith/sums.h"
+#include "frame/checks.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 namespace {
 
+// Any step is taken.
 template <class T, int Elements, int Channels>
-PxlStatus AddC(const T* src, int srcStep, ValueArg<T, Channels> value, T* dst, int dstStep, ImageSize roi,
-               int scaleFactor) {
-    return withConstants<Elements, Channels>(src, srcStep, valuesOf<Channels>(value), dst, dstStep, roi,
-                                             [&](const Region& r) { addRegion<LaneOf<T>>(r, scaleFactor); });
+PxlStatus checkConstants(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                         Image<T, Elements, Channels> dst, ImageSize roi) {
+    return check(null(src, values, dst), size(roi));
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus SubC(const T* src, int srcStep, ValueArg<T, Channels> value, T* dst, int dstStep, ImageSize roi,
-               int scaleFactor) {
-    return withConstants<Elements, Channels>(src, srcStep, valuesOf<Channels>(value), dst, dstStep, roi,
-                                             [&](const Region& r) { subtractRegion<LaneOf<T>>(r, scaleFactor); });
+PxlStatus AddC(Image<const T, Elements, Channels> src, Values<T, Channels> values, Image<T, Elements, Channels> dst,
+               ImageSize roi, int scaleFactor) {
+    if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
+    return add<LaneOf<T>>(pointwise::WithConstants(src, values, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus AddCFloat(const T* src, int srcStep, ValueArg<T, Channels> value, T* dst, int dstStep, ImageSize roi) {
-    return withConstants<Elements, Channels>(src, srcStep, valuesOf<Channels>(value), dst, dstStep, roi,
-                                             [](const Region& r) { run<float>(r, FloatSum{}); });
+PxlStatus SubC(Image<const T, Elements, Channels> src, Values<T, Channels> values, Image<T, Elements, Channels> dst,
+               ImageSize roi, int scaleFactor) {
+    if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
+    return subtract<LaneOf<T>>(pointwise::WithConstants(src, values, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus SubCFloat(const T* src, int srcStep, ValueArg<T, Channels> value, T* dst, int dstStep, ImageSize roi) {
-    return withConstants<Elements, Channels>(src, srcStep, valuesOf<Channels>(value), dst, dstStep, roi,
-                                             [](const Region& r) { run<float>(r, FloatDifference{}); });
+PxlStatus AddCFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                    Image<T, Elements, Channels> dst, ImageSize roi) {
+    if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
+    return pointwise::run<float>(pointwise::WithConstants(src, values, dst, roi), FloatSum{});
+}
+
+template <class T, int Elements, int Channels>
+PxlStatus SubCFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                    Image<T, Elements, Channels> dst, ImageSize roi) {
+    if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
+    return pointwise::run<float>(pointwise::WithConstants(src, values, dst, roi), FloatDifference{});
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith
 
 #include "members/arith/add_sub_c.inc"

@@ -6,10 +6,10 @@
 // comes. It counts as one less; no scale factor tells the two apart.
 #pragma once
 
-#include "arith/region.h"
 #include "frame/scaling.h"
+#include "pointwise/run.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 
 struct ComplexFloatProduct {
     PXL_INLINE Vec<float> operator()(Vec<float> x, Vec<float> y) const {
@@ -77,11 +77,11 @@ template <class L>
 inline constexpr int complexProductsVanishFrom = 16 * sizeof(L);
 
 template <class L>
-[[gnu::noinline]] inline void multiplyComplexRegion(const Region& region, int scaleFactor) {
-    if (scaleFactor >= complexProductsVanishFrom<L>) return setZero(region);
-    if (scaleFactor == 0) return run<L>(region, SaturatedComplexProduct{});
-    if (scaleFactor > 0) return run<L>(region, ShiftedComplexProduct<L>(scaleFactor));
-    run<L>(region, Scaled{SaturatedComplexProduct{}, SaturatingShift<L>(leftShiftOf(scaleFactor))});
+[[gnu::noinline]] inline PxlStatus multiplyComplex(const pointwise::Operands& operands, int scaleFactor) {
+    if (scaleFactor >= complexProductsVanishFrom<L>) return pointwise::setZero(operands);
+    if (scaleFactor == 0) return pointwise::run<L>(operands, SaturatedComplexProduct{});
+    if (scaleFactor > 0) return pointwise::run<L>(operands, ShiftedComplexProduct<L>(scaleFactor));
+    return pointwise::run<L>(operands, Scaled{SaturatedComplexProduct{}, SaturatingShift<L>(leftShiftOf(scaleFactor))});
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith

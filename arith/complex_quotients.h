@@ -4,14 +4,14 @@
 // that order.
 #pragma once
 
-#include "arith/div_rows.h"
+#include "arith/division.h"
 #include "arith/fields.h"
 #include "frame/ranges.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 
 // m = 0, which small divisors reach as well, makes both parts the NaN that the processor has for 0 / 0.
-struct ComplexFloatQuotient {
+struct ComplexFloatQuotient : Quotient {
     struct Divisor {
         Vec<float> real, minusImaginary, reciprocal; // in both lanes of a pair
         Mask<float> zero;
@@ -22,7 +22,7 @@ struct ComplexFloatQuotient {
         const Vec<float> sign = BitCast<float>(Set<uint32_t>(0x80000000));
         return {DupEven(x), DupOdd(x) ^ sign, Set<float>(1) / m, m == Zero<float>()};
     }
-    PXL_INLINE Vec<float> operator()(const Divisor& x, Vec<float> y) const {
+    PXL_INLINE Vec<float> operator()(Vec<float> y, const Divisor& x) const {
         const Vec<float> product = AddSub(x.real * y, x.minusImaginary * Reverse2(y));
         const Vec<float> undefined = BitCast<float>(Set<uint32_t>(0xFFC00000));
         return IfThenElse(x.zero, undefined, product * x.reciprocal);
@@ -65,7 +65,7 @@ template <class L>
 struct ComplexQuotient;
 
 template <>
-struct ComplexQuotient<int32_t> {
+struct ComplexQuotient<int32_t> : Quotient {
     struct Divisor {
         Vec<double> real, imaginary, scale;
         Mask<int32_t> zero; // not all 0 if a divisor is 0
@@ -80,7 +80,7 @@ struct ComplexQuotient<int32_t> {
         const Vec<double> scale = scaleBy(factor, a * a + b * b, zero);
         return {a, b, scale, BitCast<uint32_t>(zero)};
     }
-    PXL_INLINE Vec<int32_t> operator()(const Divisor& x, Vec<int32_t> y) const {
+    PXL_INLINE Vec<int32_t> operator()(Vec<int32_t> y, const Divisor& x) const {
         using Part = RoundPart<int32_t>;
         const Vec<double> c = Field<double, 0>(y), d = Field<double, 1>(y);
         return Part::join({Part::above((x.real * c + x.imaginary * d) * x.scale),
@@ -90,7 +90,7 @@ struct ComplexQuotient<int32_t> {
 
 // Sums of products are more than -2^31, and at most 2^31: modulo 2^32 that is no loss.
 template <>
-struct ComplexQuotient<int16_t> {
+struct ComplexQuotient<int16_t> : Quotient {
     struct Divisor {
         Vec<int16_t> x;
         Vec<uint32_t> imaginary;
@@ -107,7 +107,7 @@ struct ComplexQuotient<int16_t> {
         const Vec<double> first = scaleBy(factor, numbers<0>(m), zero), second = scaleBy(factor, numbers<1>(m), zero);
         return {x, b, {first, second}, BitCast<uint16_t>(zero)};
     }
-    PXL_INLINE Vec<int16_t> operator()(const Divisor& x, Vec<int16_t> y) const {
+    PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> y, const Divisor& x) const {
         using Part = RoundPart<int16_t>;
         // a*d + b*(-1 - c) and b more is a*d - b*c; -c itself might not fit.
         const Vec<int16_t> turned = Reverse2(y) ^ BitCast<int16_t>(Set<uint32_t>(0xFFFF0000));
@@ -127,4 +127,4 @@ private:
     }
 };
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith

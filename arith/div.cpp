@@ -3,13 +3,14 @@
 //
 // 16u members do not test their steps, and their C3 and C4 forms test the width before all else.
 #include "arith/quotients.h"
+#include "frame/checks.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 namespace {
 
 // A divisor of 0, of either sign, gives the infinity with the sign of the dividend; for 0 and NaN the NaN that the
 // processor makes of 0 / 0.
-struct FloatQuotient {
+struct FloatQuotient : Quotient {
     struct Divisor {
         Vec<float> x;
         Mask<float> zero;
@@ -19,40 +20,36 @@ struct FloatQuotient {
         const Mask<float> zero = x == Zero<float>();
         return {AndNot(BitCast<float>(zero), x), zero};
     }
-    PXL_INLINE Vec<float> operator()(const Divisor& x, Vec<float> y) const {
+    PXL_INLINE Vec<float> operator()(Vec<float> y, const Divisor& x) const {
         const Vec<float> q = y / x.x;
         const Vec<float> undefined = BitCast<float>(Set<uint32_t>(0xFFC00000));
         return IfThenElse(AndNot(q == q, x.zero), undefined, q);
     }
 };
 
-// Runs divide(region), which says whether a divisor was 0, if the arguments are good.
-template <int Elements, int Channels, class T, class Divide>
-PxlStatus withDivision(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi,
-                       Divide&& divide) {
+template <class T, int Elements, int Channels>
+PxlStatus checkPair(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                    Image<T, Elements, Channels> dst, ImageSize roi) {
     constexpr bool anyStep = std::is_same_v<T, uint16_t>;
-    if (anyStep && Elements > 1 && Channels == Elements && roi.width < 1) return PXL_E_SIZE;
-    if (anyNull(src1, src2, static_cast<const T*>(dst))) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (!anyStep && anyStepBelow1(step1, step2, dstStep)) return PXL_E_STEP;
-    const bool byZero = divide(regionOf<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi));
-    return byZero ? PXL_W_DIV_BY_ZERO : PXL_OK;
+    return check(onlyIf(anyStep, widenedSize(dst, roi)), null(src1, src2, dst), size(roi),
+                 onlyIf(!anyStep, steps(src1, src2, dst)));
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus Div(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi, int scaleFactor) {
-    return withDivision<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi,
-                                            [&](const Region& region) { return divideRegion<T>(region, scaleFactor); });
+PxlStatus Div(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+              Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
+    if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
+    return divide<T>(pointwise::TwoSources(src2, src1, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivFloat(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi) {
-    return withDivision<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi, [](const Region& region) {
-        return divideImages<float>(region, FloatQuotient{});
-    });
+PxlStatus DivFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                   Image<T, Elements, Channels> dst, ImageSize roi) {
+    if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
+    return pointwise::run<float>(pointwise::TwoSources(src2, src1, dst, roi), FloatQuotient{});
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith
 
 #include "members/arith/div.inc"

@@ -3,8 +3,9 @@
 #include "arith/complex_quotients.h"
 #include "arith/products.h"
 #include "arith/quotients.h"
+#include "frame/checks.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 namespace {
 
 template <class T>
@@ -17,68 +18,53 @@ bool isZero(T value) {
         return value.re == 0 && value.im == 0;
 }
 
-template <int Channels, class T>
-bool anyZero(const T* values) {
+template <class T, int Channels>
+bool anyZero(Values<T, Channels> values) {
     for (int c = 0; c < Channels; ++c)
-        if (isZero(load1(values + c))) return true;
+        if (isZero(values[c])) return true;
     return false;
 }
 
-template <int Channels, class T>
-PxlStatus testDivisors(const T* src, int srcStep, const T* values, const T* dst, int dstStep, ImageSize roi) {
-    if (anyNull(src, values, dst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (anyStepBelow1(srcStep, dstStep)) return PXL_E_STEP;
-    return anyZero<Channels>(values) ? PXL_E_DIV_BY_ZERO : PXL_OK;
-}
-
-// Runs work(region) if the arguments are good.
-template <int Elements, int Channels, class T, class Work>
-PxlStatus withDivisors(const T* src, int srcStep, const T* values, T* dst, int dstStep, ImageSize roi, Work&& work) {
-    const PxlStatus status = testDivisors<Channels, T>(src, srcStep, values, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
-    ConstantRow row;
-    work(constantRegionOf<Elements, Channels>(src, srcStep, values, dst, dstStep, roi, row));
-    return PXL_OK;
+template <class T, int Elements, int Channels>
+PxlStatus checkConstants(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                         Image<T, Elements, Channels> dst, ImageSize roi) {
+    return check(null(src, values, dst), size(roi), steps(src, dst),
+                 refuseIf([&] { return anyZero(values); }, PXL_E_DIV_BY_ZERO));
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivC(const T* src, int srcStep, ValueArg<T, Channels> value, T* dst, int dstStep, ImageSize roi,
-               int scaleFactor) {
-    return withDivisors<Elements, Channels>(
-        src, srcStep, valuesOf<Channels>(value), dst, dstStep, roi,
-        [&](const Region& region) { divideRegionByConstants<T>(region, scaleFactor); });
+PxlStatus DivC(Image<const T, Elements, Channels> src, Values<T, Channels> values, Image<T, Elements, Channels> dst,
+               ImageSize roi, int scaleFactor) {
+    if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
+    return divide<T>(pointwise::WithConstants(src, values, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivCFloat(const T* src, int srcStep, ValueArg<T, Channels> value, T* dst, int dstStep, ImageSize roi) {
-    const T* values = valuesOf<Channels>(value);
-    const PxlStatus status = testDivisors<Channels, T>(src, srcStep, values, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
+PxlStatus DivCFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                    Image<T, Elements, Channels> dst, ImageSize roi) {
+    if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
     T reciprocals[Channels];
-    for (int c = 0; c < Channels; ++c) reciprocals[c] = 1 / load1(values + c);
-    ConstantRow row;
-    run<T>(constantRegionOf<Elements, Channels>(src, srcStep, reciprocals, dst, dstStep, roi, row), FloatProduct{});
-    return PXL_OK;
+    for (int c = 0; c < Channels; ++c) reciprocals[c] = 1 / values[c];
+    const Values<T, Channels> factors{reciprocals};
+    return pointwise::run<T>(pointwise::WithConstants(src, factors, dst, roi), FloatProduct{});
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivCComplex(const T* src, int srcStep, ValueArg<T, Channels> value, T* dst, int dstStep, ImageSize roi,
-                      int scaleFactor) {
+PxlStatus DivCComplex(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                      Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
+    if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
     using L = LaneOf<T>;
-    return withDivisors<Elements, Channels>(
-        src, srcStep, valuesOf<Channels>(value), dst, dstStep, roi,
-        [&](const Region& region) { divideByConstants<L>(region, ComplexQuotient<L>(scaleFactor)); });
+    return pointwise::run<L>(pointwise::WithConstants(src, values, dst, roi), ComplexQuotient<L>(scaleFactor));
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivCComplexFloat(const T* src, int srcStep, ValueArg<T, Channels> value, T* dst, int dstStep, ImageSize roi) {
-    return withDivisors<Elements, Channels>(
-        src, srcStep, valuesOf<Channels>(value), dst, dstStep, roi,
-        [](const Region& region) { divideByConstants<float>(region, ComplexFloatQuotient{}); });
+PxlStatus DivCComplexFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                           Image<T, Elements, Channels> dst, ImageSize roi) {
+    if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
+    return pointwise::run<float>(pointwise::WithConstants(src, values, dst, roi), ComplexFloatQuotient{});
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith
 
 #include "members/arith/div_c.inc"

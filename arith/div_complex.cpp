@@ -1,32 +1,32 @@
 // Quotients of two complex images: dst = src2 / src1, the first source being the divisor.
 #include "arith/complex_quotients.h"
+#include "frame/checks.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 namespace {
 
-template <class T, int Elements, int Channels, class Op>
-PxlStatus divideComplex(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi,
-                        const Op& op) {
-    if (anyNull(src1, src2, static_cast<const T*>(dst))) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (anyStepBelow1(step1, step2, dstStep)) return PXL_E_STEP;
-    const Region region = regionOf<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi);
-    return divideImages<LaneOf<T>>(region, op) ? PXL_W_DIV_BY_ZERO : PXL_OK;
+template <class T, int Elements, int Channels>
+PxlStatus checkPair(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                    Image<T, Elements, Channels> dst, ImageSize roi) {
+    return check(null(src1, src2, dst), size(roi), steps(src1, src2, dst));
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivComplex(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi,
-                     int scaleFactor) {
-    const ComplexQuotient<LaneOf<T>> op(scaleFactor);
-    return divideComplex<T, Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi, op);
+PxlStatus DivComplex(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                     Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
+    if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
+    using L = LaneOf<T>;
+    return pointwise::run<L>(pointwise::TwoSources(src2, src1, dst, roi), ComplexQuotient<L>(scaleFactor));
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivComplexFloat(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi) {
-    return divideComplex<T, Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi, ComplexFloatQuotient{});
+PxlStatus DivComplexFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                          Image<T, Elements, Channels> dst, ImageSize roi) {
+    if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
+    return pointwise::run<float>(pointwise::TwoSources(src2, src1, dst, roi), ComplexFloatQuotient{});
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith
 
 #include "members/arith/div_complex.inc"

@@ -6,9 +6,10 @@
 // matter. (The quotient y / (x * 2^n) is 1 / (2y) of it away, y * 2^n / x at least 1 / (2x), with a quotient up to 256
 // and x up to 255 for 8u.)
 #include "arith/quotients.h"
+#include "frame/checks.h"
 #include "frame/ranges.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 namespace {
 
 template <class T>
@@ -60,28 +61,25 @@ struct RoundBy {
 
 // From 18 up all quotients come to 0, from -33 down all but 0 saturate.
 template <class T, int Mode>
-bool divideRounded(const Region& region, int scaleFactor) {
+PxlStatus divideRounded(const pointwise::TwoSources& operands, int scaleFactor) {
     using Round = RoundBy<T, Mode>;
     if constexpr (sizeof(T) > 1)
         if (scaleFactor < 0)
-            return divideImages<T>(region, RealQuotient<T, double, Round>{factorOf<double>(scaleFactor, -33, 0), {}});
-    return divideImages<T>(region, RealQuotient<T, float, Round>{factorOf<float>(scaleFactor, -33, 18), {}});
+            return pointwise::run<T>(operands, RealQuotient<T, double, Round>(factorOf<double>(scaleFactor, -33, 0)));
+    return pointwise::run<T>(operands, RealQuotient<T, float, Round>(factorOf<float>(scaleFactor, -33, 18)));
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivRound(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi,
-                   PxlRoundMode roundMode, int scaleFactor) {
-    if (anyNull(src1, src2, static_cast<const T*>(dst))) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (anyStepBelow1(step1, step2, dstStep)) return PXL_E_STEP;
-    if (roundMode < PXL_ROUND_ZERO || roundMode > PXL_ROUND_HALF_AWAY) return PXL_E_ROUND_MODE;
+PxlStatus DivRound(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                   Image<T, Elements, Channels> dst, ImageSize roi, PxlRoundMode mode, int scaleFactor) {
+    if (const PxlStatus status = check(null(src1, src2, dst), size(roi), steps(src1, src2, dst), roundMode(mode)))
+        return status;
     static constexpr decltype(&divideRounded<T, 0>) divide[] = {
         divideRounded<T, PXL_ROUND_ZERO>, divideRounded<T, PXL_ROUND_NEAR_EVEN>, divideRounded<T, PXL_ROUND_HALF_AWAY>};
-    const Region region = regionOf<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi);
-    return divide[roundMode](region, scaleFactor) ? PXL_W_DIV_BY_ZERO : PXL_OK;
+    return divide[mode](pointwise::TwoSources(src2, src1, dst, roi), scaleFactor);
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith
 
 #include "members/arith/div_round.inc"

@@ -7,7 +7,7 @@
 
 #include "frame/vec/vec.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 
 template <class T, class Wide>
 inline constexpr int fieldsOf = sizeof(Wide) / sizeof(T);
@@ -81,4 +81,4 @@ private:
           upper(ConvertToFloat(BitCast<int32_t>(InterleaveUpper(low, high)))) {}
 };
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith

@@ -6,7 +6,7 @@
 
 #include "frame/vec/arithmetic.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 
 template <class T>
 inline constexpr uint32_t bitsOf = 8 * sizeof(T);
@@ -118,4 +118,4 @@ struct LaneShift {
     }
 };
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith

@@ -1,39 +1,47 @@
 // Products of an image and one constant per channel: dst = src * value, as those of two images.
-#include "arith/checks.h"
 #include "arith/complex_products.h"
 #include "arith/products.h"
+#include "frame/checks.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 namespace {
 
+// Any step is taken.
 template <class T, int Elements, int Channels>
-PxlStatus MulC(const T* src, int srcStep, ValueArg<T, Channels> value, T* dst, int dstStep, ImageSize roi,
-               int scaleFactor) {
-    return withConstants<Elements, Channels>(src, srcStep, valuesOf<Channels>(value), dst, dstStep, roi,
-                                             [&](const Region& r) { multiplyRegion<T>(r, scaleFactor); });
+PxlStatus checkConstants(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                         Image<T, Elements, Channels> dst, ImageSize roi) {
+    return check(null(src, values, dst), size(roi));
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus MulCFloat(const T* src, int srcStep, ValueArg<T, Channels> value, T* dst, int dstStep, ImageSize roi) {
-    return withConstants<Elements, Channels>(src, srcStep, valuesOf<Channels>(value), dst, dstStep, roi,
-                                             [](const Region& r) { run<float>(r, FloatProduct{}); });
+PxlStatus MulC(Image<const T, Elements, Channels> src, Values<T, Channels> values, Image<T, Elements, Channels> dst,
+               ImageSize roi, int scaleFactor) {
+    if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
+    return multiply<T>(pointwise::WithConstants(src, values, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus MulCComplex(const T* src, int srcStep, ValueArg<T, Channels> value, T* dst, int dstStep, ImageSize roi,
-                      int scaleFactor) {
-    return withConstants<Elements, Channels>(
-        src, srcStep, valuesOf<Channels>(value), dst, dstStep, roi,
-        [&](const Region& r) { multiplyComplexRegion<LaneOf<T>>(r, scaleFactor); });
+PxlStatus MulCFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                    Image<T, Elements, Channels> dst, ImageSize roi) {
+    if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
+    return pointwise::run<float>(pointwise::WithConstants(src, values, dst, roi), FloatProduct{});
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus MulCComplexFloat(const T* src, int srcStep, ValueArg<T, Channels> value, T* dst, int dstStep, ImageSize roi) {
-    return withConstants<Elements, Channels>(src, srcStep, valuesOf<Channels>(value), dst, dstStep, roi,
-                                             [](const Region& r) { run<float>(r, ComplexFloatProduct{}); });
+PxlStatus MulCComplex(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                      Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
+    if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
+    return multiplyComplex<LaneOf<T>>(pointwise::WithConstants(src, values, dst, roi), scaleFactor);
+}
+
+template <class T, int Elements, int Channels>
+PxlStatus MulCComplexFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                           Image<T, Elements, Channels> dst, ImageSize roi) {
+    if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
+    return pointwise::run<float>(pointwise::WithConstants(src, values, dst, roi), ComplexFloatProduct{});
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith
 
 #include "members/arith/mul_c.inc"

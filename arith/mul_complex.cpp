@@ -1,24 +1,31 @@
 // Products of two complex images: dst = src1 * src2. How they are formed and scaled stands in arith/complex_products.h.
-#include "arith/checks.h"
 #include "arith/complex_products.h"
+#include "frame/checks.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 namespace {
 
 template <class T, int Elements, int Channels>
-PxlStatus MulComplex(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi,
-                     int scaleFactor) {
-    return withPair<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi,
-                                        [&](const Region& r) { multiplyComplexRegion<LaneOf<T>>(r, scaleFactor); });
+PxlStatus checkPair(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                    Image<T, Elements, Channels> dst, ImageSize roi) {
+    return check(widenedSize(dst, roi), null(src1, src2, dst), size(roi), steps(src1, src2, dst));
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus MulComplexFloat(const T* src1, int step1, const T* src2, int step2, T* dst, int dstStep, ImageSize roi) {
-    return withPair<Elements, Channels>(src1, step1, src2, step2, dst, dstStep, roi,
-                                        [](const Region& r) { run<float>(r, ComplexFloatProduct{}); });
+PxlStatus MulComplex(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                     Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
+    if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
+    return multiplyComplex<LaneOf<T>>(pointwise::TwoSources(src1, src2, dst, roi), scaleFactor);
+}
+
+template <class T, int Elements, int Channels>
+PxlStatus MulComplexFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                          Image<T, Elements, Channels> dst, ImageSize roi) {
+    if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
+    return pointwise::run<float>(pointwise::TwoSources(src1, src2, dst, roi), ComplexFloatProduct{});
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith
 
 #include "members/arith/mul_complex.inc"

@@ -5,10 +5,10 @@
 // its own, and 16u results come from those halves; 16s ones need 32-bit lanes for their sign.
 #pragma once
 
-#include "arith/region.h"
 #include "frame/scaling.h"
+#include "pointwise/run.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 
 struct FloatProduct {
     PXL_INLINE Vec<float> operator()(Vec<float> a, Vec<float> b) const { return a * b; }
@@ -144,14 +144,14 @@ inline constexpr int productsVanishFrom = sizeof(L) == 1        ? 17
                                                                 : 33;
 
 template <class L>
-[[gnu::noinline]] inline void multiplyRegion(const Region& region, int scaleFactor) {
-    if (scaleFactor >= productsVanishFrom<L>) return setZero(region);
-    if (scaleFactor == 0) return run<L>(region, SaturatedProduct{});
+[[gnu::noinline]] inline PxlStatus multiply(const pointwise::Operands& operands, int scaleFactor) {
+    if (scaleFactor >= productsVanishFrom<L>) return pointwise::setZero(operands);
+    if (scaleFactor == 0) return pointwise::run<L>(operands, SaturatedProduct{});
     if (scaleFactor < 0)
-        return run<L>(region, Scaled{SaturatedProduct{}, SaturatingShift<L>(leftShiftOf(scaleFactor))});
+        return pointwise::run<L>(operands, Scaled{SaturatedProduct{}, SaturatingShift<L>(leftShiftOf(scaleFactor))});
     if constexpr (std::is_same_v<L, uint16_t>)
-        if (scaleFactor > 16) return run<L>(region, ShiftedHighProduct(scaleFactor));
-    run<L>(region, ShiftedProduct<L>(scaleFactor));
+        if (scaleFactor > 16) return pointwise::run<L>(operands, ShiftedHighProduct(scaleFactor));
+    return pointwise::run<L>(operands, ShiftedProduct<L>(scaleFactor));
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith

@@ -5,10 +5,10 @@
 // with zeros.
 #pragma once
 
-#include "arith/div_rows.h"
+#include "arith/division.h"
 #include "arith/fields.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 
 // min(limit, v) and max(limit, v), NaN where v is.
 template <class Real>
@@ -28,7 +28,7 @@ PXL_INLINE Vec<Real> RoundToGrid(Vec<Real> v, std::type_identity_t<Real> magnitu
 
 // The quotients in numbers of type Real; round(quotients) has the results in the lower bits of its lanes.
 template <class T, class Real, class Round>
-struct RealQuotient {
+struct RealQuotient : Quotient {
     static constexpr int fields = fieldsOf<T, Real>;
     struct Divisor {
         Vec<Real> field[fields];
@@ -37,13 +37,15 @@ struct RealQuotient {
     Real factor;
     [[no_unique_address]] Round round;
 
+    explicit RealQuotient(Real f) : factor(f) {}
+
     PXL_INLINE Divisor prepare(Vec<T> x) const {
         Divisor divisor;
         unrolled<fields>([&](auto k) __attribute__((always_inline)) { divisor.field[k] = Field<Real, k>(x); });
         divisor.zero = x == Zero<T>();
         return divisor;
     }
-    PXL_INLINE Vec<T> operator()(const Divisor& x, Vec<T> y) const {
+    PXL_INLINE Vec<T> operator()(Vec<T> y, const Divisor& x) const {
         decltype(round(x.field[0])) result[fields];
         unrolled<fields>([&](auto k) __attribute__((always_inline)) {
             result[k] = round(Field<Real, k>(y) * Set<Real>(factor) / x.field[k]);
@@ -69,7 +71,7 @@ using ScaledByteQuotient = RealQuotient<uint8_t, float, RoundByte>;
 // that is more than x / 2, or x / 2 with an odd q. The approximation, rounded to 16 bits below the point, is off by
 // 24.5 / 65536 at most; 64 / 65536 are taken off so that the R of 1 fits into 16 bits. x = 0 has R = 0, which takes y >
 // 0 to 1.
-struct ByteQuotient {
+struct ByteQuotient : Quotient {
     struct Divisor {
         Vec<uint8_t> x;
         Vec<uint16_t> even, odd; // R of its elements
@@ -91,7 +93,7 @@ struct ByteQuotient {
         return {x, JoinFields<uint16_t>({r[0], r[2]}), JoinFields<uint16_t>({r[1], r[3]}), x == Zero<uint8_t>()};
     }
 
-    PXL_INLINE Vec<uint8_t> operator()(const Divisor& x, Vec<uint8_t> y) const {
+    PXL_INLINE Vec<uint8_t> operator()(Vec<uint8_t> y, const Divisor& x) const {
         const Vec<uint16_t> lower = Set<uint16_t>(0xFF);
         const Vec<uint16_t> ys = BitCast<uint16_t>(y), xs = BitCast<uint16_t>(x.x);
         const Vec<uint16_t> even = MulHigh(ys & lower, x.even);
@@ -119,7 +121,7 @@ using ScaledShortQuotient = RealQuotient<int16_t, float, RoundShort>;
 
 // scaleFactor 0: only -32768 / -1 is outside the range, and saturates when it is packed. In place of x = 0 stands
 // 2^-16, which makes the quotient 0 or takes it far enough.
-struct ShortQuotient {
+struct ShortQuotient : Quotient {
     struct Divisor {
         BlockNumbers number;
         Mask<int16_t> zero;
@@ -129,7 +131,7 @@ struct ShortQuotient {
         const Mask<int16_t> zero = x == Zero<int16_t>();
         return {BlockNumbers(x, Zero<uint16_t>() - zero), zero};
     }
-    PXL_INLINE Vec<int16_t> operator()(const Divisor& x, Vec<int16_t> y) const {
+    PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> y, const Divisor& x) const {
         const BlockNumbers dividend(y, Zero<uint16_t>());
         const auto round = [](Vec<float> q) { return NearestInt(q + Set<float>(32768)); };
         const Vec<int32_t> lower = round(dividend.lower / x.number.lower),
@@ -148,7 +150,7 @@ struct ShortQuotient {
 // rounding single-precision quotients to nearest is exact. Ties of x <= 32768 are just the true ones, too. For larger
 // x, which have quotients below 2, two others count as ties, both for odd x only: 1/2 + 1 / (2x), which goes to 0, and
 // 3/2 - 1 / (2x), which goes to 2.
-struct WordQuotient {
+struct WordQuotient : Quotient {
     struct Divisor {
         BlockNumbers number;
         Vec<uint16_t> x, half;
@@ -159,7 +161,7 @@ struct WordQuotient {
         const Vec<uint16_t> zero = Zero<uint16_t>(), oddAndLarge = Set<uint16_t>(0x8001);
         return {BlockNumbers(x), x, ShiftRight<1>(x), (x & oddAndLarge) == oddAndLarge, x == zero};
     }
-    PXL_INLINE Vec<uint16_t> operator()(const Divisor& x, Vec<uint16_t> y) const {
+    PXL_INLINE Vec<uint16_t> operator()(Vec<uint16_t> y, const Divisor& x) const {
         const BlockNumbers dividend(y);
         const Vec<int32_t> lower = NearestInt(dividend.lower / x.number.lower);
         const Vec<int32_t> upper = NearestInt(dividend.upper / x.number.upper);
@@ -196,25 +198,20 @@ template <class L, class Apply>
 PXL_INLINE auto withQuotient(int scaleFactor, Apply&& apply) {
     if constexpr (std::is_same_v<L, uint8_t>) {
         if (scaleFactor == 0) return apply(ByteQuotient{});
-        return apply(ScaledByteQuotient{factorOf<float>(scaleFactor, -16, 9), {}});
+        return apply(ScaledByteQuotient(factorOf<float>(scaleFactor, -16, 9)));
     } else if constexpr (std::is_same_v<L, uint16_t>) {
         if (scaleFactor == 0) return apply(WordQuotient{});
-        return apply(ScaledWordQuotient{wordFactorOf(scaleFactor), {}});
+        return apply(ScaledWordQuotient(wordFactorOf(scaleFactor)));
     } else {
         if (scaleFactor == 0) return apply(ShortQuotient{});
-        return apply(ScaledShortQuotient{factorOf<float>(scaleFactor, -31, 17), {}});
+        return apply(ScaledShortQuotient(factorOf<float>(scaleFactor, -31, 17)));
     }
 }
 
-// Whether a divisor was 0.
-template <class L>
-[[gnu::noinline]] bool divideRegion(const Region& region, int scaleFactor) {
-    return withQuotient<L>(scaleFactor, [&](const auto& op) { return divideImages<L>(region, op); });
+// Of pointwise::TwoSources, the dividends first, or of pointwise::WithConstants.
+template <class L, class Operands>
+[[gnu::noinline]] PxlStatus divide(const Operands& operands, int scaleFactor) {
+    return withQuotient<L>(scaleFactor, [&](const auto& op) { return pointwise::run<L>(operands, op); });
 }
 
-template <class L>
-[[gnu::noinline]] void divideRegionByConstants(const Region& region, int scaleFactor) {
-    withQuotient<L>(scaleFactor, [&](const auto& op) { divideByConstants<L>(region, op); });
-}
-
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith

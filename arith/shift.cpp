@@ -1,45 +1,14 @@
 // Shifts of every element by one count per channel. Counts from the element's width up give 0, or the sign for right shifts of
 // signed types. Checks come in the order pointers, steps, size.
 #include "arith/lane_shifts.h"
-#include "arith/rows.h"
 #include "frame/checks.h"
+#include "pointwise/run.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 namespace {
 
 template <class T, bool Left>
 inline constexpr bool bringsSign = !Left && std::is_signed_v<T>;
-
-// The shifts of a row for counts that differ by channel, as vectors of one period. The fourth of AC4 is not shifted.
-template <class T, bool Left>
-struct ShiftsOf {
-    template <int Elements, int Channels>
-    struct Make {
-        static constexpr int count = Elements == 3 ? 3 : 1;
-        LaneShift<T, Left> vectors[count];
-
-        explicit Make(const uint32_t* counts) : Make(counts, std::make_integer_sequence<int, count>()) {}
-
-    private:
-        template <int... V>
-        Make(const uint32_t* counts, std::integer_sequence<int, V...>) : vectors{forVector(counts, V)...} {}
-
-        static LaneShift<T, Left> forVector(const uint32_t* counts, int v) {
-            alignas(vecBytes) uint32_t own[lanes<T>];
-            for (int i = 0; i < lanes<T>; ++i) {
-                const int channel = (v * lanes<T> + i) % Elements;
-                const uint32_t n = channel < Channels ? counts[channel] : 0;
-                own[i] = bringsSign<T, Left> && n >= bitsOf<T> ? bitsOf<T> - 1 : n;
-            }
-            return LaneShift<T, Left>(own);
-        }
-    };
-};
-
-template <class T, bool Left>
-struct ShiftBy {
-    PXL_INLINE Vec<T> operator()(Vec<T> v, const LaneShift<T, Left>& shift) const { return shift(v); }
-};
 
 // The same count in all channels. A count that leaves nothing of the element becomes a mask without bits.
 template <class T, bool Left>
@@ -51,46 +20,59 @@ struct ShiftSame {
         : shift(n < bitsOf<T> ? n : bitsOf<T> - 1),
           kept(n < bitsOf<T> || bringsSign<T, Left> ? ~Zero<MaskLane<T>>() : Zero<MaskLane<T>>()) {}
 
-    template <class C>
-    PXL_INLINE Vec<T> operator()(Vec<T> v, const C&) const {
-        return IfThenElseZero(kept, shift(v));
+    PXL_INLINE Vec<T> operator()(Vec<T> v) const { return IfThenElseZero(kept, shift(v)); }
+};
+
+// A count for every channel, as a constant of the elements' type that is at most their width.
+template <class T, bool Left>
+struct ShiftEach {
+    LaneShift<T, Left> prepare(Vec<T> counts) const {
+        alignas(vecBytes) T few[lanes<T>];
+        uint32_t all[lanes<T>];
+        StoreU(counts, few);
+        for (int i = 0; i < lanes<T>; ++i) all[i] = static_cast<uint32_t>(few[i]);
+        return LaneShift<T, Left>(all);
+    }
+    PXL_INLINE Vec<T> operator()(Vec<T> v, const LaneShift<T, Left>& shift) const { return shift(v); }
+
+    static T countOf(uint32_t n) {
+        constexpr uint32_t most = bringsSign<T, Left> ? bitsOf<T> - 1 : bitsOf<T>;
+        return static_cast<T>(n < most ? n : most);
     }
 };
 
 template <int Channels>
-bool allEqual(const uint32_t* counts) {
+bool allEqual(Values<uint32_t, Channels> counts) {
     for (int c = 1; c < Channels; ++c)
         if (counts[c] != counts[0]) return false;
     return true;
 }
 
-template <class T, int Elements, int Channels, bool Left>
-PxlStatus Shift(const T* src, int srcStep, const uint32_t* counts, T* dst, int dstStep, ImageSize roi) {
-    if (anyNull(src, static_cast<const T*>(dst)) || !counts) return PXL_E_NULL_PTR;
-    if (anyStepBelow1(srcStep, dstStep)) return PXL_E_STEP;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (allEqual<Channels>(counts)) {
-        constexpr T none[4] = {};
-        walkConstant<Elements, Channels>(src, srcStep, none, dst, dstStep, roi, ShiftSame<T, Left>(counts[0]));
-    } else if constexpr (Channels > 1) {
-        using Shifts = ShiftsOf<T, Left>;
-        walkWithConstants<Elements, Channels, Shifts::template Make>(src, srcStep, counts, dst, dstStep, roi,
-                                                                     ShiftBy<T, Left>{});
-    }
-    return PXL_OK;
+template <bool Left, class T, int Elements, int Channels>
+PxlStatus shift(Image<const T, Elements, Channels> src, Values<uint32_t, Channels> counts,
+                Image<T, Elements, Channels> dst, ImageSize roi) {
+    if (const PxlStatus status = check(null(src, counts, dst), steps(src, dst), size(roi))) return status;
+    if (Channels == 1 || allEqual(counts))
+        return pointwise::run<T>(pointwise::OneSource(src, dst, roi), ShiftSame<T, Left>(counts[0]));
+    using Op = ShiftEach<T, Left>;
+    T each[Channels];
+    for (int c = 0; c < Channels; ++c) each[c] = Op::countOf(counts[c]);
+    return pointwise::run<T>(pointwise::WithConstants(src, Values<T, Channels>{each}, dst, roi), Op{});
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus LShiftC(const T* src, int srcStep, ValueArg<uint32_t, Channels> count, T* dst, int dstStep, ImageSize roi) {
-    return Shift<T, Elements, Channels, true>(src, srcStep, valuesOf<Channels>(count), dst, dstStep, roi);
+PxlStatus LShiftC(Image<const T, Elements, Channels> src, Values<uint32_t, Channels> counts,
+                  Image<T, Elements, Channels> dst, ImageSize roi) {
+    return shift<true>(src, counts, dst, roi);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus RShiftC(const T* src, int srcStep, ValueArg<uint32_t, Channels> count, T* dst, int dstStep, ImageSize roi) {
-    return Shift<T, Elements, Channels, false>(src, srcStep, valuesOf<Channels>(count), dst, dstStep, roi);
+PxlStatus RShiftC(Image<const T, Elements, Channels> src, Values<uint32_t, Channels> counts,
+                  Image<T, Elements, Channels> dst, ImageSize roi) {
+    return shift<false>(src, counts, dst, roi);
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith
 
 #include "members/arith/shift.inc"

@@ -7,10 +7,10 @@
 // Differences of unsigned lanes stop at 0 before scaling. Complex elements are lanes like any other.
 #pragma once
 
-#include "arith/region.h"
 #include "frame/scaling.h"
+#include "pointwise/run.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::arith {
 
 struct SaturatedSum {
     template <class L>
@@ -123,33 +123,34 @@ template <class L>
 inline constexpr int differencesVanishFrom = std::is_signed_v<L> ? sumsVanishFrom<L> : sumsVanishFrom<L> - 1;
 
 template <class L>
-[[gnu::noinline]] inline void addRegion(const Region& region, int scaleFactor) {
-    if (scaleFactor >= sumsVanishFrom<L>) return setZero(region);
-    if (scaleFactor == 0) return run<L>(region, SaturatedSum{});
-    if (scaleFactor < 0) return run<L>(region, Scaled{SaturatedSum{}, SaturatingShift<L>(leftShiftOf(scaleFactor))});
+[[gnu::noinline]] inline PxlStatus add(const pointwise::Operands& operands, int scaleFactor) {
+    if (scaleFactor >= sumsVanishFrom<L>) return pointwise::setZero(operands);
+    if (scaleFactor == 0) return pointwise::run<L>(operands, SaturatedSum{});
+    if (scaleFactor < 0)
+        return pointwise::run<L>(operands, Scaled{SaturatedSum{}, SaturatingShift<L>(leftShiftOf(scaleFactor))});
     if constexpr (sizeof(L) == 4) {
-        run<L>(region, ShiftedSum32s(scaleFactor));
+        return pointwise::run<L>(operands, ShiftedSum32s(scaleFactor));
     } else {
-        if (scaleFactor == 1) return run<L>(region, HalfSum{});
+        if (scaleFactor == 1) return pointwise::run<L>(operands, HalfSum{});
         if constexpr (std::is_signed_v<L>)
-            run<L>(region, ShiftedSum16s(scaleFactor, false));
+            return pointwise::run<L>(operands, ShiftedSum16s(scaleFactor, false));
         else
-            run<L>(region, ShiftedSum<L>(scaleFactor));
+            return pointwise::run<L>(operands, ShiftedSum<L>(scaleFactor));
     }
 }
 
 template <class L>
-[[gnu::noinline]] inline void subtractRegion(const Region& region, int scaleFactor) {
-    if (scaleFactor >= differencesVanishFrom<L>) return setZero(region);
-    if (scaleFactor == 0) return run<L>(region, SaturatedDifference{});
+[[gnu::noinline]] inline PxlStatus subtract(const pointwise::Operands& operands, int scaleFactor) {
+    if (scaleFactor >= differencesVanishFrom<L>) return pointwise::setZero(operands);
+    if (scaleFactor == 0) return pointwise::run<L>(operands, SaturatedDifference{});
     if (scaleFactor < 0)
-        return run<L>(region, Scaled{SaturatedDifference{}, SaturatingShift<L>(leftShiftOf(scaleFactor))});
+        return pointwise::run<L>(operands, Scaled{SaturatedDifference{}, SaturatingShift<L>(leftShiftOf(scaleFactor))});
     if constexpr (sizeof(L) == 4)
-        run<L>(region, ShiftedDifference32s(scaleFactor));
+        return pointwise::run<L>(operands, ShiftedDifference32s(scaleFactor));
     else if constexpr (std::is_signed_v<L>)
-        run<L>(region, ShiftedSum16s(scaleFactor, true));
+        return pointwise::run<L>(operands, ShiftedSum16s(scaleFactor, true));
     else
-        run<L>(region, Scaled{SaturatedDifference{}, RoundingShift<L>(scaleFactor)});
+        return pointwise::run<L>(operands, Scaled{SaturatedDifference{}, RoundingShift<L>(scaleFactor)});
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::arith

@@ -7,11 +7,12 @@
 // and NaN gives 0. The lower bound needs no operation of its own: what lies below the range of 32s converts to its
 // minimum, and narrowing saturates. That minimum is what NaN converts to as well, which is the wanted 0 for unsigned
 // destinations.
-#include "exchange/conversion.h"
+#include "pointwise/convert.h"
 #include "exchange/rounding.h"
+#include "frame/checks.h"
 #include "frame/ranges.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 namespace {
 
 // Between integers, and from integers to float.
@@ -62,20 +63,22 @@ struct Truncate {
 };
 
 template <class S, class D, int Elements, int Channels>
-PxlStatus Convert(const S* src, int srcStep, D* dst, int dstStep, ImageSize roi) {
-    return convertRegion<Elements, Channels>(KeepValue<S, D>(), src, srcStep, dst, dstStep, roi);
+PxlStatus Convert(Image<const S, Elements, Channels> src, Image<D, Elements, Channels> dst, ImageSize roi) {
+    if (const PxlStatus status = check(widenedSize(dst, roi), null(src, dst), size(roi), steps(src, dst)))
+        return status;
+    return pointwise::convert(KeepValue<S, D>(), src, dst, roi);
 }
 
 template <class D, int Elements, int Channels>
-PxlStatus ConvertRounded(const float* src, int srcStep, D* dst, int dstStep, ImageSize roi, int roundMode) {
-    const auto run = [&](auto operation) {
-        return convertRegion<Elements, Channels>(operation, src, srcStep, dst, dstStep, roi);
-    };
-    if (roundMode == PXL_ROUND_NEAR_EVEN) return run(RoundToNearest<D>());
-    return run(Truncate<D>{roundMode == PXL_ROUND_ZERO ? 0.0f : 0.5f});
+PxlStatus ConvertRounded(Image<const float, Elements, Channels> src, Image<D, Elements, Channels> dst, ImageSize roi,
+                         int mode) {
+    if (const PxlStatus status = check(widenedSize(dst, roi), null(src, dst), size(roi), steps(src, dst)))
+        return status;
+    if (mode == PXL_ROUND_NEAR_EVEN) return pointwise::convert(RoundToNearest<D>(), src, dst, roi);
+    return pointwise::convert(Truncate<D>{mode == PXL_ROUND_ZERO ? 0.0f : 0.5f}, src, dst, roi);
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange
 
 #include "members/exchange/convert.inc"

@@ -8,7 +8,7 @@
 
 #include "frame/vec/vec.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 
 inline constexpr float tieReach = 0x1p-25f;
 
@@ -22,4 +22,4 @@ PXL_INLINE Mask<float> roundsAwayFrom0(Vec<float> v) {
     return magnitude > Set<float>(0.5f + 0x1p-24f);
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange

@@ -4,10 +4,11 @@
 // Integer types: the spans divide without remainder (65535 = 257 * 255 and 4294967295 = 16843009 * 255), so widening
 // repeats the byte, and narrowing divides by an odd number: no value lies half way and rounding to nearest leaves no
 // choice. 32f8u: the formula is applied literally in single precision; see FromFloat for the ends of the range.
-#include "exchange/conversion.h"
 #include "exchange/rounding.h"
+#include "frame/checks.h"
+#include "pointwise/convert.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 namespace {
 
 // The byte repeated in every byte of D is the byte times 257 or 16843009; signed types start at their minimum.
@@ -119,34 +120,41 @@ inline bool isSteady(Line line, float vMax) { return line.slope - line.slope == 
 inline bool isFarFrom0(float origin) { return origin >= 2.0f || origin <= -2.0f; }
 
 template <class D, int Elements, int Channels>
-PxlStatus ScaleWiden(const uint8_t* src, int srcStep, D* dst, int dstStep, ImageSize roi) {
-    return convertRegion<Elements, Channels>(RepeatByte<D>(), src, srcStep, dst, dstStep, roi);
+PxlStatus ScaleWiden(Image<const uint8_t, Elements, Channels> src, Image<D, Elements, Channels> dst, ImageSize roi) {
+    if (const PxlStatus status = check(widenedSize(dst, roi), null(src, dst), size(roi), steps(src, dst)))
+        return status;
+    return pointwise::convert(RepeatByte<D>(), src, dst, roi);
 }
 
 // Every hint gives the same result, the exact one. So does the single-precision formula that hint 2 stands for in
 // 16s8u.
 template <class S, int Elements, int Channels>
-PxlStatus ScaleNarrow(const S* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roi, int /*hint*/) {
-    return convertRegion<Elements, Channels>(NarrowToByte<S>(), src, srcStep, dst, dstStep, roi);
+PxlStatus ScaleNarrow(Image<const S, Elements, Channels> src, Image<uint8_t, Elements, Channels> dst, ImageSize roi,
+                      int /*hint*/) {
+    if (const PxlStatus status = check(widenedSize(dst, roi), null(src, dst), size(roi), steps(src, dst)))
+        return status;
+    return pointwise::convert(NarrowToByte<S>(), src, dst, roi);
 }
 
 // Tested before anything else, the pointers included. A NaN bound passes.
-inline bool isEmptyRange(float vMin, float vMax) { return vMax - vMin <= 0.0f; }
+inline Check scaleRange(float vMin, float vMax) { return refuse(vMax - vMin <= 0.0f, PXL_E_SCALE_RANGE); }
 
 template <int Elements, int Channels>
-PxlStatus ScaleToFloat(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roi, float vMin,
-                       float vMax) {
-    if (isEmptyRange(vMin, vMax)) return PXL_E_SCALE_RANGE;
-    return convertRegion<Elements, Channels>(ToFloat{(vMax - vMin) / 255.0f, vMin}, src, srcStep, dst, dstStep, roi);
+PxlStatus ScaleToFloat(Image<const uint8_t, Elements, Channels> src, Image<float, Elements, Channels> dst,
+                       ImageSize roi, float vMin, float vMax) {
+    if (const PxlStatus status =
+            check(scaleRange(vMin, vMax), widenedSize(dst, roi), null(src, dst), size(roi), steps(src, dst)))
+        return status;
+    return pointwise::convert(ToFloat{(vMax - vMin) / 255.0f, vMin}, src, dst, roi);
 }
 
 template <int Elements, int Channels>
-PxlStatus ScaleFromFloat(const float* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roi, float vMin,
-                         float vMax) {
-    if (isEmptyRange(vMin, vMax)) return PXL_E_SCALE_RANGE;
-    const auto run = [&](auto operation) {
-        return convertRegion<Elements, Channels>(operation, src, srcStep, dst, dstStep, roi);
-    };
+PxlStatus ScaleFromFloat(Image<const float, Elements, Channels> src, Image<uint8_t, Elements, Channels> dst,
+                         ImageSize roi, float vMin, float vMax) {
+    if (const PxlStatus status =
+            check(scaleRange(vMin, vMax), widenedSize(dst, roi), null(src, dst), size(roi), steps(src, dst)))
+        return status;
+    const auto run = [&](auto operation) { return pointwise::convert(operation, src, dst, roi); };
     const Line line = lineOf(vMin, vMax);
     if (!isSteady(line, vMax)) return run(FromFloat{vMin, vMax, line});
     if (line.origin == 0.0f) return run(FromFloatSteady<false>{{line.slope, -tieReach}}); // a sum that costs nothing
@@ -155,6 +163,6 @@ PxlStatus ScaleFromFloat(const float* src, int srcStep, uint8_t* dst, int dstSte
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange
 
 #include "members/exchange/scale.inc"

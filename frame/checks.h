@@ -90,6 +90,9 @@ inline LateCheck<Test> refuseIf(Test test, PxlStatus status) {
     return {test, status};
 }
 
+// A check that only some members of a family make.
+inline Check onlyIf(bool made, Check c) { return {made && c.failed, c.status}; }
+
 inline Check roundMode(PxlRoundMode mode) {
     return {mode < PXL_ROUND_ZERO || mode > PXL_ROUND_HALF_AWAY, PXL_E_ROUND_MODE};
 }

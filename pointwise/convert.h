@@ -1,4 +1,6 @@
-// What the conversions between element types share: the checks, and the walks that apply an operation to every element.
+// The engine of conversions: one source, and results of another element size.
+//
+//     return convert(operation, src, dst, roi);
 //
 // An operation converts one vector:
 //     using Source, Result   the element types in memory, of different sizes
@@ -9,25 +11,13 @@
 // either disjoint rows or single pixels. So a row may be finished with a block that overlaps the one before it.
 #pragma once
 
-#include "frame/checks.h"
 #include "frame/streaming.h"
 #include "frame/vec/convert.h"
 #include "frame/vec/mask.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
-namespace pxl::PXL_TARGET {
-
-// Where all of three or four elements are converted, the region is widened and passed on to the form for one, so the
-// width is looked at before anything else.
-template <int Elements, int Channels>
-inline PxlStatus checkConversion(const void* src, int srcStep, const void* dst, int dstStep, ImageSize roi) {
-    if (Elements > 1 && Channels == Elements && roi.width < 1) return PXL_E_SIZE;
-    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (anyStepBelow1(srcStep, dstStep)) return PXL_E_STEP;
-    return PXL_OK;
-}
+namespace pxl::PXL_TARGET::pointwise {
 
 template <class Operation>
 inline constexpr int unitOf = lanes<typename Operation::Lane>;
@@ -149,44 +139,39 @@ template <class Operation, class S, class D>
 
 // ---- the walks: one body per operation, whatever the count of channels ----------------------------------------------
 
+// Channels alike, as elements.
 template <class Operation, class S, class D>
-[[gnu::noinline]] PxlStatus convertElements(Operation operation, const S* src, int srcStep, D* dst, int dstStep,
-                                            ImageSize roi, int channels) {
+[[gnu::noinline]] PxlStatus convertElements(Operation operation, Image<const S> src, Image<D> dst, ImageSize roi,
+                                            int channels) {
     const ptrdiff_t width = ptrdiff_t{roi.width} * channels;
-    const auto from = operand(src, srcStep);
-    const auto to = operand(dst, dstStep);
     const auto row = [=](ptrdiff_t n, const S* s, D* d) { convertRow<false>(operation, n, s, d); };
     const auto shortRow = [=](ptrdiff_t n, const S* s, D* d) {
         if (!convertShortRow(operation, n, s, d)) row(n, s, d); // regions walked as one long row
     };
     if (isShortRow<Operation>(width)) {
-        walkElements(roi, channels, shortRow, from, to);
+        walkElements(roi, channels, shortRow, src, dst);
         return PXL_OK;
     }
     if constexpr (sizeof(D) > sizeof(S)) // widening is bound by its stores
-        if (isFetched(width, roi.height, from, to)) {
+        if (isFetched(width, roi.height, src, dst)) {
             const auto fetchedRow = [=](ptrdiff_t n, const S* s, D* d) { convertRow<true>(operation, n, s, d); };
-            walkElements(roi, channels, fetchedRow, from, to);
+            walkElements(roi, channels, fetchedRow, src, dst);
             return PXL_OK;
         }
-    walkElements(roi, channels, row, from, to);
+    walkElements(roi, channels, row, src, dst);
     return PXL_OK;
 }
 
-template <class Operation, class S, class D>
-PxlStatus convertColours(Operation operation, const S* src, int srcStep, D* dst, int dstStep, ImageSize roi) {
-    const auto row = [=](ptrdiff_t n, const S* s, D* d) { convertColourRow(operation, n, s, d); };
-    walk(roi, row, operand(src, srcStep, 4), operand(dst, dstStep, 4));
-    return PXL_OK;
+template <class Operation, class S, class D, int Elements, int Channels>
+PxlStatus convert(Operation operation, Image<const S, Elements, Channels> src, Image<D, Elements, Channels> dst,
+                  ImageSize roi) {
+    if constexpr (Channels == Elements) {
+        return convertElements(operation, elementsOf(src), elementsOf(dst), roi, Elements);
+    } else {
+        const auto row = [=](ptrdiff_t n, const S* s, D* d) { convertColourRow(operation, n, s, d); };
+        walk(roi, row, src, dst);
+        return PXL_OK;
+    }
 }
 
-// Converts the first Channels of Elements elements of every pixel, if the arguments are good.
-template <int Elements, int Channels, class Operation, class S, class D>
-PxlStatus convertRegion(Operation operation, const S* src, int srcStep, D* dst, int dstStep, ImageSize roi) {
-    const PxlStatus status = checkConversion<Elements, Channels>(src, srcStep, dst, dstStep, roi);
-    if (status != PXL_OK) return status;
-    if constexpr (Channels < Elements) return convertColours(operation, src, srcStep, dst, dstStep, roi);
-    return convertElements(operation, src, srcStep, dst, dstStep, roi, Elements);
-}
-
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::pointwise

@@ -1,0 +1,181 @@
+// The three ways to the results of a row. An operation is a callable object over vectors with whatever it needs set up once per
+// call:
+//     Vec<L> operator()(Vec<L> a) const;              one source
+//     Vec<L> operator()(Vec<L> a, Vec<L> b) const;    two sources, or a source and constants
+// or one that makes something of b first, of constants once per call:
+//     Prepared prepare(Vec<L> b) const;
+//     Vec<L> operator()(Vec<L> a, const Prepared& b) const;
+// The latter may also give a warning, if there is one among the b of two sources:
+//     static constexpr PxlStatus warning;
+//     static Vec<U> warned(const Prepared& b);        bits where there is
+#pragma once
+
+#include <utility>
+
+#include "pointwise/row.h"
+
+namespace pxl::PXL_TARGET::pointwise {
+
+template <class Op, class L>
+inline constexpr bool isUnary = std::is_invocable_v<const Op&, Vec<L>>;
+template <class Op>
+inline constexpr bool warns = requires {
+    Op::warning;
+};
+
+template <class Op, class L>
+concept Preparing = requires(const Op& op, Vec<L> b) {
+    op.prepare(b);
+};
+template <class Op, class L>
+using PreparedBy = decltype(std::declval<const Op&>().prepare(Vec<L>{}));
+
+// op(a) or op(a, b), b an image or a ConstantRow.
+template <class L, class Op>
+struct PlainResults {
+    using Lane = L;
+    static constexpr bool isShort = true;
+    const L *a, *b;
+    ptrdiff_t within; // of constants in AC4 rows, which repeat after two vectors
+    Op op;
+
+    PXL_INLINE PlainResults(const void* from, const void* with, const RowPlan& plan)
+        : a(static_cast<const L*>(from)), b(static_cast<const L*>(with)), within(plan.still ? lanes<L> : -1),
+          op(*static_cast<const Op*>(plan.op)) {}
+
+    PXL_INLINE Vec<L> at(ptrdiff_t x, ptrdiff_t o = 0) const {
+        if constexpr (isUnary<Op, L>)
+            return op(LoadU(a + x));
+        else
+            return op(LoadU(a + x), LoadU(b + o));
+    }
+    PXL_INLINE void next() { b += lanes<L>; }
+    PXL_INLINE Vec<L> inPixels(ptrdiff_t x, Mask<L>) const { return at(x, x & within); }
+    PXL_INLINE Vec<L> atEnd(const RowEnd<L>& end) const {
+        if constexpr (isUnary<Op, L>)
+            return op(end.load(a));
+        else
+            return op(end.load(a), end.loadBeside(b));
+    }
+    PXL_INLINE void finish() const {}
+};
+
+// op(a, op.prepare(b)) of two images. Operations that prepare are long: they gain nothing from unrolled loops.
+template <class Op>
+struct Warning {
+    Op op;
+    bool* given;
+};
+
+// All ones, to tell what LoadEnds fills in.
+struct AllBytes {
+    alignas(vecBytes) uint8_t bytes[vecBytes];
+    constexpr AllBytes() : bytes{} {
+        for (uint8_t& byte : bytes) byte = 0xFF;
+    }
+};
+inline constexpr AllBytes allBytes;
+
+template <class L, class Op>
+struct PreparedResults {
+    using Lane = L;
+    static constexpr bool isShort = false;
+    const L *a, *b;
+    Op op;
+    bool* given;
+    Mask<L> warned = Zero<MaskLane<L>>();
+
+    PXL_INLINE PreparedResults(const void* from, const void* with, const RowPlan& plan)
+        : a(static_cast<const L*>(from)), b(static_cast<const L*>(with)),
+          op(static_cast<const Warning<Op>*>(plan.op)->op), given(static_cast<const Warning<Op>*>(plan.op)->given) {}
+
+    PXL_INLINE Vec<L> resultOf(Vec<L> as, Vec<L> bs) {
+        const auto prepared = op.prepare(bs);
+        if constexpr (warns<Op>) warned = warned | Op::warned(prepared);
+        return op(as, prepared);
+    }
+    // Lanes that do not count are made 1, which nothing warns of.
+    PXL_INLINE static Vec<L> ignore(Mask<L> lanesToIgnore, Vec<L> bs) {
+        return bs | IfThenElseZero(lanesToIgnore, Set<L>(1));
+    }
+
+    PXL_INLINE Vec<L> at(ptrdiff_t x) { return resultOf(LoadU(a + x), LoadU(b + x)); }
+    PXL_INLINE void next() const {}
+    PXL_INLINE Vec<L> inPixels(ptrdiff_t x, Mask<L> kept) { return resultOf(LoadU(a + x), ignore(kept, LoadU(b + x))); }
+    PXL_INLINE Vec<L> atEnd(const RowEnd<L>& end) {
+        const Vec<L> bs = end.load(b);
+        Mask<L> ignored = end.plan.alpha ? end.kept() : Zero<MaskLane<L>>();
+        if (!end.whole) ignored = ignored | ~LoadEnds(reinterpret_cast<const MaskLane<L>*>(allBytes.bytes), end.n);
+        return resultOf(end.load(a), ignore(ignored, bs));
+    }
+    PXL_INLINE void finish() const {
+        if constexpr (warns<Op>)
+            if (AnyBit(warned)) *given = true;
+    }
+};
+
+// What an operation makes of constants, once per call: of the vectors of a row, which repeat after three, in AC4 rows after
+// two. The third is also the one that ends a row.
+template <class L, class Op>
+class PreparedConstants {
+    using Prepared = PreparedBy<Op, L>;
+
+public:
+    const Op op;
+    const Prepared vectors[3];
+
+    PreparedConstants(const Op& operation, const WithConstants& operands)
+        : op(operation), vectors{prepare(LoadU(lanesOf(operands))), prepare(operands, operands.layout.secondPhase),
+                                 prepare(operands, operands.layout.endPhase)},
+          same_(operands.layout.elements == 1), ofShortRow_(vectors[0]) {}
+
+    // Of a row of n lanes, fewer than a vector. Such rows follow one another.
+    const Prepared& ofShortRow(const L* constants, ptrdiff_t n) const {
+        if (!same_ && (n != shortLength_ || constants != shortConstants_)) {
+            ofShortRow_ = prepare(LoadEnds(constants, n));
+            shortLength_ = n;
+            shortConstants_ = constants;
+        }
+        return ofShortRow_;
+    }
+
+private:
+    const bool same_; // in all lanes
+    mutable Prepared ofShortRow_;
+    mutable ptrdiff_t shortLength_ = 0;
+    mutable const L* shortConstants_ = nullptr;
+
+    static const L* lanesOf(const WithConstants& operands) { return reinterpret_cast<const L*>(operands.constants); }
+
+    [[gnu::noinline]] Prepared prepare(Vec<L> constants) const { return op.prepare(constants); }
+    // Phase 0 is that of the first vector.
+    Prepared prepare(const WithConstants& operands, ptrdiff_t phase) const {
+        if (phase == 0) return vectors[0];
+        return prepare(LoadU(lanesOf(operands) + phase / static_cast<ptrdiff_t>(sizeof(L))));
+    }
+};
+
+template <class L, class Op>
+struct ConstantResults {
+    using Lane = L;
+    static constexpr bool isShort = false;
+    const L *a, *b;
+    const PreparedConstants<L, Op>& constants;
+    Op op;
+    int vector = 0;
+
+    PXL_INLINE ConstantResults(const void* from, const void* with, const RowPlan& plan)
+        : a(static_cast<const L*>(from)), b(static_cast<const L*>(with)),
+          constants(*static_cast<const PreparedConstants<L, Op>*>(plan.op)), op(constants.op) {}
+
+    PXL_INLINE Vec<L> of(ptrdiff_t x, ptrdiff_t v) const { return op(LoadU(a + x), constants.vectors[v]); }
+    PXL_INLINE Vec<L> at(ptrdiff_t x) const { return of(x, vector); }
+    PXL_INLINE void next() { vector = vector < 2 ? vector + 1 : 0; }
+    PXL_INLINE Vec<L> inPixels(ptrdiff_t x, Mask<L>) const { return of(x, x / lanes<L> % 2); }
+    PXL_INLINE Vec<L> atEnd(const RowEnd<L>& end) const {
+        return op(end.load(a), end.whole ? constants.vectors[2] : constants.ofShortRow(b, end.n));
+    }
+    PXL_INLINE void finish() const {}
+};
+
+} // namespace pxl::PXL_TARGET::pointwise

@@ -1,0 +1,122 @@
+// The row function of operations on elements of one size: dst = op(a), op(a, b), or op(a, op.prepare(b)), in lanes of type L.
+//
+// One function serves all layouts. What b is, and what it takes to have a vector of results, is the matter of a type Results:
+//     using Lane
+//     Results(const void* a, const void* b, const RowPlan& plan)
+//     Vec<L> at(x)                     of the vector at lane x, and of b where it stands
+//     void next()                      b moves on by a vector
+//     Vec<L> inPixels(x, kept)         of a vector in an AC4 row, of which the lanes `kept` do not count
+//     Vec<L> atEnd(const RowEnd<L>&)   of the vector that ends the row
+//     void finish()                    called when the row is done
+//     static constexpr bool isShort    whether loops are unrolled and stores may pass by the caches; then
+//     Vec<L> at(x, o)                  is o lanes further on in b, and b the place where that stands
+#pragma once
+
+#include "frame/vec/partial.h"
+#include "pointwise/operands.h"
+
+namespace pxl::PXL_TARGET::pointwise {
+
+// What a row function gets beside its row.
+struct RowPlan {
+    const void* op;
+    bool still;           // b is a ConstantRow
+    const uint8_t* alpha; // AC4, else null
+    ptrdiff_t endPhase;   // the layout's
+    size_t streamed;      // bytes of an element where stores are to pass by the caches, else 0
+
+    // Whether whole elements lead from d to the next address at which vectors can be streamed.
+    PXL_INLINE bool streams(const void* d) const { return streamed && reinterpret_cast<uintptr_t>(d) % streamed == 0; }
+};
+
+using RowFunction = void (*)(ptrdiff_t n, const void* a, const void* b, void* d, const RowPlan& plan);
+
+// The vector that ends a row of n lanes, or the ends of a row that is shorter than a vector.
+template <class L>
+struct RowEnd {
+    ptrdiff_t n, last;
+    bool whole;
+    const RowPlan& plan;
+
+    PXL_INLINE RowEnd(ptrdiff_t lanesOfRow, const RowPlan& p)
+        : n(lanesOfRow), last(n - lanes<L>), whole(last >= 0), plan(p) {}
+
+    PXL_INLINE Vec<L> load(const L* row, ptrdiff_t at) const { return whole ? LoadU(row + at) : LoadEnds(row, n); }
+    PXL_INLINE Vec<L> load(const L* row) const { return load(row, last); }
+    // Of b.
+    PXL_INLINE Vec<L> loadBeside(const L* row) const { return load(row, plan.still ? phase() : last); }
+    // AC4: the lanes that keep their value.
+    PXL_INLINE Mask<L> kept() const {
+        const auto keep = reinterpret_cast<const MaskLane<L>*>(plan.alpha);
+        return whole ? LoadU(keep + phase()) : LoadEnds(keep, n);
+    }
+    // v, but what d holds in fourth elements of AC4 pixels.
+    PXL_INLINE Vec<L> keepAlpha(const L* d, Vec<L> v) const { return plan.alpha ? IfThenElse(kept(), load(d), v) : v; }
+
+private:
+    PXL_INLINE ptrdiff_t phase() const { return plan.endPhase / static_cast<ptrdiff_t>(sizeof(L)); }
+};
+
+// The beginning of a row whose stores pass by the caches, as many whole vectors as come before `last`; returns where it
+// stops and moves b along. The first vector, of which the next may overlap a part, is stored as it stands.
+template <class Results, class L>
+PXL_INLINE ptrdiff_t streamRow(ptrdiff_t last, Results& results, bool still, L* d) {
+    constexpr ptrdiff_t step = lanes<L>, run = 3 * step;
+    StoreU(results.at(0), d);
+    const auto head = static_cast<ptrdiff_t>(-reinterpret_cast<uintptr_t>(d) % vecBytes / sizeof(L));
+    ptrdiff_t x = head, o = head;
+    for (; x < last; x += step) {
+        Streamed::store(results.at(x, o), d + x);
+        o += step;
+        if (still && o >= run) o -= run;
+    }
+    results.b += o;
+    return x;
+}
+
+// n lanes; of AC4 pixels the lanes up to the last third element, and fourth elements are stored again as they were. The
+// vector at the end overlaps the one before it; it is computed before anything is stored, so d may be a or b.
+template <class Results>
+void elementRow(ptrdiff_t n, const void* a, const void* b, void* to, const RowPlan& plan) {
+    using L = typename Results::Lane;
+    constexpr ptrdiff_t step = lanes<L>, run = 3 * step;
+    L* d = static_cast<L*>(to);
+    Results results(a, b, plan);
+
+    const RowEnd<L> atEnd(n, plan);
+    const Vec<L> end = atEnd.keepAlpha(d, results.atEnd(atEnd));
+    if (!atEnd.whole) {
+        StoreEnds(end, d, n);
+        return results.finish();
+    }
+    const ptrdiff_t last = n - step;
+    ptrdiff_t x = 0;
+    if (plan.alpha) {
+        for (; x < last; x += step) { // pixels may be two vectors long
+            const Mask<L> kept = LoadU(reinterpret_cast<const MaskLane<L>*>(plan.alpha) + (x & step));
+            const Vec<L> result = results.inPixels(x, kept);
+            StoreU(IfThenElse(kept, LoadU(d + x), result), d + x);
+        }
+    }
+    if constexpr (Results::isShort) {
+        if (plan.streams(d)) x = streamRow(last, results, plan.still, d);
+        const ptrdiff_t advance = plan.still ? 0 : run;
+        for (; x + run <= last; x += run, results.b += advance) {
+            // Computed where they stand, they keep loads and stores in ascending order, which the caches reward.
+            const Vec<L> first = results.at(x);
+            ComputeHere(first);
+            const Vec<L> second = results.at(x + step, step);
+            ComputeHere(second);
+            const Vec<L> third = results.at(x + 2 * step, 2 * step);
+            StoreU(first, d + x);
+            ComputeHere(third);
+            StoreU(second, d + x + step);
+            StoreU(third, d + x + 2 * step);
+        }
+    }
+    for (; x < last; x += step, results.next()) StoreU(results.at(x), d + x);
+    StoreU(end, d + last);
+    results.finish();
+}
+
+} // namespace pxl::PXL_TARGET::pointwise
