@@ -18,13 +18,13 @@ An argument word is  kind[:TYPE][:name]  with additions, and expands to one C pa
     outer:NAME             the size of a destination that holds a source and a border; top:NAME left:NAME: its rows above and
                            columns left of the source
   numbers, with [LOW..HIGH] or [A,B,C]: the valid ones; where none are given, all are
-    int u8 i16 u64 float double :NAME, enum:CTYPE:NAME, and with a meaning of their own: scaleFactor divisor roundMode
+    int u64 float double :NAME, enum:CTYPE:NAME, and with a meaning of their own: scaleFactor divisor roundMode
     count:NAME             entries of a counted array, one per processed channel
     bitOffset:NAME         the first bit of every row      low:NAME high:NAME   single-precision ends of a range
   values
     value[:TYPE[:NAME]]    a scalar for one processed channel, else an array of one per processed channel
     shift:NAME             counts of bits in the same way
-    element:NAME           one element of the destination type
+    element[:TYPE]:NAME    one element, of the destination type
     order:N                N channel indices, dstOrder
   arrays; TYPE is an element type, S or D (the member's), int, or a C type
     table:TYPE:NAME        read                 result:TYPE:NAME   written         inout:TYPE:NAME   both
@@ -49,7 +49,7 @@ C_TYPES = {
 SIZES = {"1u": 1, "8u": 1, "8s": 1, "16u": 2, "16s": 2, "32u": 4, "32s": 4, "64s": 8, "32f": 4, "64f": 8,
          "16sc": 4, "16uc": 4, "32sc": 8, "32fc": 8, "24u": 3}
 BITS_TYPES = {1: "uint8_t", 2: "uint16_t", 4: "uint32_t", 8: "uint64_t"}
-SCALARS = {"int": "int", "float": "float", "double": "double", "u8": "uint8_t", "i16": "int16_t", "u64": "uint64_t"}
+SCALARS = {"int": "int", "u64": "uint64_t", "float": "float", "double": "double"}
 # Words of a number: C type, name, meaning and valid numbers.
 NUMBERS = {"scaleFactor": ("int", "scaleFactor", "ScaleFactor", ""), "divisor": ("int", "divisor", "Divisor", ""),
            "roundMode": ("PxlRoundMode", "roundMode", "None", "0..2")}
@@ -185,7 +185,8 @@ def expand(word, member):
     if kind in ("value", "shift", "count"):
         return [_per_channel(kind, rest, member)]
     if kind == "element":
-        return [Param(C_TYPES[member.dst], name, "Element", element=member.dst, count="1")]
+        ctype, element = _type(rest[0] if len(rest) > 1 else "D", member)
+        return [Param(ctype, name, "Element", element=element, count="1")]
     if kind == "order":
         limit = valid or f"0..{member.src_side.channels - 1}"
         return [Param("const int32_t", "dstOrder", "Order", f"[{rest[0]}]", "32s", count=rest[0], valid=limit)]
