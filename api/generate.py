@@ -82,7 +82,7 @@ def passed_argument(param, step, member):
         shape = f"{side.elements}" if side.channels == side.elements else f"{side.elements}, {side.channels}"
         return f"Image<{const}{lane}, {shape}>{{{pointer}, {step.name}}}"
     if param.per_channel:
-        pointer = as_lanes(param, member, f"&{param.name}" if param.role == "Element" else param.name)
+        pointer = as_lanes(param, member, param.name if param.role == "Values" else f"&{param.name}")
         return f"Values<{lane_type(param, member)}, {param.count or 1}>{{{pointer}}}"
     if param.role == "Element" and member.bits:
         return f"std::bit_cast<{lane_type(param, member)}>({param.name})"
@@ -180,12 +180,12 @@ def version_script(names):
     return f"PXLIMX_5.3 {{\n    global:\n{body}\n    local:\n        *;\n}};\n"
 
 
-def table_text(members=None):
+def table_text(members, allocators):
     """The tables of tests/generic/member.h: every member with its parameters and a way to call it, and the allocators."""
     lines = ["// The exported functions, generated from the registry.",
              '#include "generic/member.h"', "", '#include "pxli.h"', "", "namespace generic {", "namespace {", ""]
     rows = []
-    for m in members or all_members():
+    for m in members:
         if m.params is None:
             continue
         args = ", ".join(thunk_argument(p, i) for i, p in enumerate(m.params))
@@ -195,7 +195,7 @@ def table_text(members=None):
         rows.append(f'    {{{{"{m.name}", "{m.family}", "{m.src}", "{m.dst}", "{m.layout}", "{m.mode}"}}, '
                     f'params_{m.name}, {len(m.params)}, call_{m.name}, "{" ".join(m.targets)}", {facts_row(m.facts)}}},')
     lines += ["", "const Member table[] = {", *rows, "};", "", "const Allocator allocatorTable[] = {",
-              *[f'    {{"{n}", [](int w, int h, int* s) -> void* {{ return {n}(w, h, s); }}}},' for n in allocator_names()],
+              *[f'    {{"{n}", [](int w, int h, int* s) -> void* {{ return {n}(w, h, s); }}}},' for n in allocators],
               "};", "} // namespace", "", "std::span<const Member> members() { return table; }",
               "std::span<const Allocator> allocators() { return allocatorTable; }", "", "} // namespace generic", ""]
     return "\n".join(lines)
@@ -230,6 +230,8 @@ def region_row(region, member):
         return f"{{Shape::Plain, {of('roiSize')}, -1, {window}}}"
     if region == "transposed":
         return f"{{Shape::Transposed, {of('roiSize')}}}"
+    if region == "8x8":
+        return "{Shape::Block}"
     if joined := re.fullmatch(r"(\w+)([+-])(\w+)[+-]1", region):
         shape = "Joined" if joined[2] == "+" else "Moved"
         return f"{{Shape::{shape}, {of(joined[1])}, {of(joined[3])}}}"
@@ -303,7 +305,7 @@ def write_sources(out, targets):
     write(out / "pxlimx.map", version_script(names))
     write(out / "pxlimx.def", "EXPORTS\n" + "".join(f"    {n}\n" for n in names))
     write(out / "target_list.h", target_list_text(targets))
-    write(out / "member_table.cpp", table_text())
+    write(out / "member_table.cpp", table_text(all_members(), allocator_names()))
 
 
 def main(argv):

@@ -10,9 +10,9 @@ An argument word is  kind[:TYPE][:name]  with additions, and expands to one C pa
     .all                   AC4, AP4: the alpha is processed like the colours
     .mask                  one 8u element per pixel, whatever the member's name says
     .sized                 the size of the whole image stands between pointer and step, and bounds it
-    /REGION                what the operand covers: a size or rectangle by name (default roiSize); A+B-1 (A-B+1): two sizes
-                           joined (one moved inside the other); WxSIZE: a width of its own; transposed: height x width; and,
-                           read beyond the region's edges, what a window reaches (WINDOWS below)
+    /REGION                what the operand covers: a size, rectangle or object by name (default roiSize); A+B-1 (A-B+1): two
+                           sizes joined (one moved inside the other); WxSIZE: a width of its own; 8x8: a block; transposed:
+                           height x width; and, read beyond the region's edges, what a window reaches (WINDOWS below)
   regions and geometry
     roi size:NAME point:NAME rect:NAME (by address) rectValue:NAME (by value)
     outer:NAME             the size of a destination that holds a source and a border; top:NAME left:NAME: its rows above and
@@ -164,10 +164,11 @@ class Param:
 
 def expand(word, member):
     """The C parameters of one argument word for one member."""
-    word, _, valid = word.rstrip("]").partition("[")
-    word, _, region = word.partition("/")
-    word, _, count = word.partition("@")
-    kind, *rest = word.split(":")
+    parts = re.fullmatch(r"([^][@/]+)(?:@([^][]+)|/([^][]+))?(?:\[([^][]+)\])?", word)
+    if not parts:
+        raise ValueError(f"not an argument word: {word!r}")
+    stem, count, region, valid = (part or "" for part in parts.groups())
+    kind, *rest = stem.split(":")
     base, _, flag = kind.partition(".")
     name = rest[-1] if rest else kind
     if base in ("src", "src1", "src2", "dst", "srcDst", "inside"):

@@ -242,6 +242,7 @@ void Builder::breakArgument(int i) {
         return breakArray(i);
     case Role::Values:
     case Role::Order:
+    case Role::Rect:
         return breakArray(i);
     case Role::Buffer:
         return;

@@ -67,6 +67,7 @@ enum class Shape {
     Joined,     // a + b - 1
     Moved,      // |a - b| + 1: the places of one inside the other
     OwnWidth,   // a number, and the height of a size
+    Block,      // 8x8
 };
 
 struct Region {

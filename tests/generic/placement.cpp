@@ -20,6 +20,7 @@ Area Builder::plainArea(int i) {
         const int64_t top = arg(Meaning::BorderTop).num, left = arg(Meaning::BorderLeft).num;
         return {-left, -top, outer.width - left, outer.height - top};
     }
+    if (region.shape == Shape::Block) return {0, 0, 8, 8};
     const auto& a = arg(region.a);
     if (!contents(region.a).empty()) { // a rectangle
         int32_t rect[4];
