@@ -8,7 +8,10 @@ set(PXL_GENERATE ${Python3_EXECUTABLE} -B ${CMAKE_SOURCE_DIR}/api/generate.py)
 execute_process(COMMAND ${PXL_GENERATE} cmake ${PXL_GENERATED}/targets.cmake COMMAND_ERROR_IS_FATAL ANY)
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PXL_API})
 include(${PXL_GENERATED}/targets.cmake)
-set(PXL_TARGETS ${PXL_KNOWN_TARGETS} CACHE STRING "The targets to build, in the order of api/targets.toml")
+set(PXL_TARGETS all CACHE STRING "The targets to build, in the order of api/targets.toml")
+if(PXL_TARGETS STREQUAL "all")
+    set(PXL_TARGETS ${PXL_KNOWN_TARGETS}) # of this scope alone, so that new ones reach builds that are configured already
+endif()
 
 set(PXL_SUBSYSTEMS exchange arith filter)
 set(PXL_FAMILIES)
