@@ -1,0 +1,76 @@
+// Reductions of the pixels whose element of an 8u mask is not zero.
+#pragma once
+
+#include "frame/vec_mask.h"
+#include "reduce/region.h"
+
+namespace pxl::PXL_TARGET::reduce {
+
+// As many pixels as a block has bytes, so that their elements fill whole blocks.
+inline constexpr ptrdiff_t maskPixels = blockBytes;
+
+// The bytes of their elements, all ones where the pixel counts.
+template <int PixelBytes>
+struct ChosenBytes {
+    alignas(vecBytes) uint8_t bytes[maskPixels * PixelBytes];
+
+    PXL_INLINE void choose(const uint8_t* mask) {
+        using Pixels = BlockMask<PixelBytes>;
+        constexpr int vectors = Pixels::pixels * PixelBytes / vecBytes;
+        for (ptrdiff_t x = 0; x < maskPixels; x += Pixels::pixels) {
+            const Pixels unchosen(mask + x);
+            unrolled<vectors>([&](auto j) __attribute__((always_inline)) {
+                StoreU(~unchosen.template vector<j>(), bytes + x * PixelBytes + j * vecBytes);
+            });
+        }
+    }
+};
+
+// Adds n elements of pixels whose chosen bytes are given.
+template <class Fold, class... T>
+PXL_INLINE void addChosen(const Fold& fold, StatesOf<Fold>& s, ptrdiff_t n, const uint8_t* chosen, const T*... p) {
+    using Element = typename Fold::Element;
+    constexpr ptrdiff_t step = lanes<Element>;
+    unrolled<blockRegisters>([&](auto j) __attribute__((always_inline)) {
+        const ptrdiff_t left = n - j * step;
+        if (left <= 0) return;
+        const auto keep = LoadU(reinterpret_cast<const MaskLane<Element>*>(chosen + j * vecBytes));
+        if (left >= step)
+            fold.addWhere(s.of[j], keep, LoadU(p + j * step)...);
+        else
+            fold.addWhere(s.of[j], keep & FirstN<Element>(left), LoadN(p + j * step, left)...);
+    });
+}
+
+// A row of pixels of `Elements` elements; the last one ends `unread` elements early.
+template <int Elements, class Fold, class... T>
+PXL_INLINE void addMaskedRow(Fold& fold, StatesOf<Fold>& s, Room<Fold>& room, ptrdiff_t pixels, ptrdiff_t unread,
+                             const uint8_t* mask, const T*... p) {
+    using Element = typename Fold::Element;
+    constexpr ptrdiff_t step = blockLanes<Element>;
+    ChosenBytes<Elements * sizeof(Element)> chosen;
+    for (; pixels > 0; pixels -= maskPixels, mask += maskPixels) {
+        if (pixels >= maskPixels)
+            chosen.choose(mask);
+        else
+            chosen.choose(Few<uint8_t, maskPixels>(mask, static_cast<size_t>(pixels)).data);
+        ptrdiff_t n = (pixels < maskPixels ? pixels : maskPixels) * Elements - (pixels <= maskPixels ? unread : 0);
+        for (const uint8_t* bytes = chosen.bytes; n > 0; n -= step, bytes += blockBytes) {
+            addChosen(fold, s, n, bytes, p...);
+            room.use(1, fold, s);
+            (..., (p += step));
+        }
+    }
+}
+
+// As foldRegion, for pixels of `Elements` elements.
+template <int Elements, class Fold, class... T>
+[[gnu::noinline, gnu::flatten]] void foldMasked(Fold& fold, ImageSize roi, int channels, Operand<const uint8_t> mask,
+                                                Operand<T>... sources) {
+    const auto add = [&](auto& s, auto& room, ptrdiff_t pixels, auto... p) __attribute__((always_inline)) {
+        addMaskedRow<Elements>(fold, s, room, pixels, Elements - channels, p...);
+    };
+    walkFold(fold, roi, add, mask, sources...);
+}
+
+} // namespace pxl::PXL_TARGET::reduce
