@@ -21,6 +21,7 @@
 #include <cstdint>
 
 #include "frame/vec.h"
+#include "frame/vec_convert.h"
 #include "frame/vec_pattern.h"
 
 namespace pxl::PXL_TARGET::reduce {
@@ -84,6 +85,12 @@ PXL_INLINE Mask<T> FirstN(ptrdiff_t n) {
     return LoadU(reinterpret_cast<const MaskLane<T>*>(from));
 }
 
+// The first n lanes, 0 < n < lanes<T>, zeros behind them. By words: through memory, a row of 8 pixels takes twice as long.
+template <class T>
+PXL_INLINE Vec<T> LoadRest(const T* p, ptrdiff_t n) {
+    return LoadFew<lanes<T>>(p, n);
+}
+
 template <class Fold, class... T>
 PXL_INLINE void addBlock(const Fold& fold, StatesOf<Fold>& s, const T*... p) {
     unrolled<blockRegisters>([&](auto j)
@@ -104,7 +111,7 @@ PXL_INLINE void addPartOfBlock(const Fold& fold, StatesOf<Fold>& s, ptrdiff_t n,
             if (j == whole) fold.addWhere(s.of[j], FirstN<typename Fold::Element>(rest), last...);
         });
     };
-    addLast(LoadN(p + whole * step, rest)...);
+    addLast(LoadRest(p + whole * step, rest)...);
 }
 
 // A row of n elements from each source.

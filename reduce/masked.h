@@ -26,20 +26,26 @@ struct ChosenBytes {
     }
 };
 
-// Adds n elements of pixels whose chosen bytes are given.
+// Adds the first n elements of a block, or all of it, where their chosen bytes are set.
 template <class Fold, class... T>
 PXL_INLINE void addChosen(const Fold& fold, StatesOf<Fold>& s, ptrdiff_t n, const uint8_t* chosen, const T*... p) {
     using Element = typename Fold::Element;
     constexpr ptrdiff_t step = lanes<Element>;
+    const ptrdiff_t whole = static_cast<size_t>(n) / step, rest = static_cast<size_t>(n) % step;
+    const auto keep = [=](ptrdiff_t j) __attribute__((always_inline)) {
+        return LoadU(reinterpret_cast<const MaskLane<Element>*>(chosen + j * vecBytes));
+    };
     unrolled<blockRegisters>([&](auto j) __attribute__((always_inline)) {
-        const ptrdiff_t left = n - j * step;
-        if (left <= 0) return;
-        const auto keep = LoadU(reinterpret_cast<const MaskLane<Element>*>(chosen + j * vecBytes));
-        if (left >= step)
-            fold.addWhere(s.of[j], keep, LoadU(p + j * step)...);
-        else
-            fold.addWhere(s.of[j], keep & FirstN<Element>(left), LoadN(p + j * step, left)...);
+        if (j < whole) fold.addWhere(s.of[j], keep(j), LoadU(p + j * step)...);
     });
+    if (whole >= blockRegisters || rest == 0) return;
+    const auto addLast = [&](Vec<T>... last) __attribute__((always_inline)) {
+        const Mask<Element> first = keep(whole) & FirstN<Element>(rest);
+        unrolled<blockRegisters>([&](auto j) __attribute__((always_inline)) {
+            if (j == whole) fold.addWhere(s.of[j], first, last...);
+        });
+    };
+    addLast(LoadRest(p + whole * step, rest)...);
 }
 
 // A row of pixels of `Elements` elements; the last one ends `unread` elements early.
@@ -50,11 +56,13 @@ PXL_INLINE void addMaskedRow(Fold& fold, StatesOf<Fold>& s, Room<Fold>& room, pt
     constexpr ptrdiff_t step = blockLanes<Element>;
     ChosenBytes<Elements * sizeof(Element)> chosen;
     for (; pixels > 0; pixels -= maskPixels, mask += maskPixels) {
-        if (pixels >= maskPixels)
+        ptrdiff_t n = maskPixels * Elements;
+        if (pixels > maskPixels) {
             chosen.choose(mask);
-        else
-            chosen.choose(Few<uint8_t, maskPixels>(mask, static_cast<size_t>(pixels)).data);
-        ptrdiff_t n = (pixels < maskPixels ? pixels : maskPixels) * Elements - (pixels <= maskPixels ? unread : 0);
+        } else {
+            chosen.choose(Few<uint8_t, maskPixels + vecBytes>(mask, static_cast<size_t>(pixels)).data);
+            n = pixels * Elements - unread;
+        }
         for (const uint8_t* bytes = chosen.bytes; n > 0; n -= step, bytes += blockBytes) {
             addChosen(fold, s, n, bytes, p...);
             room.use(1, fold, s);

@@ -19,15 +19,14 @@ inline constexpr int tileBytes = 16 << 10; // half of a first-level cache
 template <class Visit>
 PXL_INLINE void forEachTile(ImageSize roi, ptrdiff_t pixelBytes, Visit&& visit) {
     const ptrdiff_t rowBytes = roi.width * pixelBytes;
-    const auto columns = static_cast<int>(tileBytes / blockBytes * (blockBytes / pixelBytes));
-    const ImageSize most = {rowBytes > tileBytes ? columns : roi.width,
-                            rowBytes > tileBytes ? 1 : static_cast<int>(tileBytes / rowBytes)};
-    for (ImagePoint at = {0, 0}; at.y < roi.height; at.x = 0, at.y += most.height) {
-        const int rows = roi.height - at.y;
-        for (; at.x < roi.width; at.x += most.width) {
-            const int rest = roi.width - at.x;
-            visit(Tile{at, {rest < most.width ? rest : most.width, rows < most.height ? rows : most.height}});
-            if (rest <= most.width) break; // the next column may not fit an int
+    const bool wide = rowBytes > tileBytes;
+    const int mostRows = wide ? 1 : static_cast<int>(tileBytes / rowBytes);
+    const int mostColumns = wide ? static_cast<int>(tileBytes / blockBytes * (blockBytes / pixelBytes)) : roi.width;
+    for (int y = 0, rows; y < roi.height; y += rows) {
+        rows = roi.height - y < mostRows ? roi.height - y : mostRows;
+        for (int x = 0, columns; x < roi.width; x += columns) {
+            columns = roi.width - x < mostColumns ? roi.width - x : mostColumns;
+            visit(Tile{{x, y}, {columns, rows}});
         }
     }
 }
@@ -68,7 +67,7 @@ PXL_INLINE ptrdiff_t findRegister(const T* p, ptrdiff_t n, Vec<T> value) {
     for (; x + o + step <= n; o += step)
         if (AnyBit(found(LoadU(p + x + o), o))) return x + o;
     if (x + o == n) return n;
-    return AnyBit(found(LoadN(p + x + o, n - x - o), o) & FirstN<T>(n - x - o)) ? x + o : n;
+    return AnyBit(found(LoadRest(p + x + o, n - x - o), o) & FirstN<T>(n - x - o)) ? x + o : n;
 }
 
 // Where `value` stands first, in the order of the scan, in the channel that `image` begins with; it must stand somewhere.

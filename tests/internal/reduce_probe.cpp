@@ -103,7 +103,8 @@ void run(const ReduceOperands& o, Fold& fold) {
     using T = typename Fold::Element;
     const auto a = operandOf<T>(o.src, o.srcStep, Elements), b = operandOf<T>(o.other, o.otherStep, Elements);
     const auto mask = operand(o.mask, o.maskStep);
-    if (o.mask && o.other) return foldMasked<Elements>(fold, o.roi, o.channels, mask, a, b);
+    if constexpr (std::is_same_v<T, float>)
+        if (o.mask && o.other) return foldMasked<Elements>(fold, o.roi, o.channels, mask, a, b);
     if (o.mask) return foldMasked<Elements>(fold, o.roi, o.channels, mask, a);
     if (o.other) return foldRegion(fold, o.roi, o.channels, a, b);
     foldRegion(fold, o.roi, o.channels, a);
@@ -129,7 +130,7 @@ void exactSums(const ReduceOperands& o, uint64_t* sum) {
 void sumsOfRows(const ReduceOperands& o, double* sum) {
     withElements(o, [&](auto elements) {
         SumsOfRows<uint16_t, elements> fold;
-        run<elements>(o, fold);
+        foldRegion(fold, o.roi, o.channels, operandOf<uint16_t>(o.src, o.srcStep, elements));
         for (int c = 0; c < o.channels; ++c) sum[c] = fold.rows[c];
     });
 }

@@ -18,10 +18,10 @@ struct ReduceOperands {
 };
 
 struct ReduceProbe {
-    // Per channel: sums of elements, or of absolute differences to the second source.
+    // Per channel: sums of elements, or of absolute differences to the second source (without a mask).
     void (*sums8u)(const ReduceOperands&, uint64_t*);
     void (*sums16u)(const ReduceOperands&, uint64_t*);
-    // r = 0.75 r + the sum of a row, from the first row to the last.
+    // r = 0.75 r + the sum of a row, from the first row to the last; of one source, without a mask.
     void (*sumsOfRows16u)(const ReduceOperands&, double*);
     // Sums in 24 parts, of elements or of differences to the second source.
     void (*sums32f)(const ReduceOperands&, double*);
