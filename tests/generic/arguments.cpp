@@ -125,7 +125,7 @@ void Builder::chooseWindow(const Window& window) {
     chooseSide(width, x, window.mirrored, limit);
     chooseSide(height, y, window.mirrored, limit);
     if (facts().windows[0][0] > 0 && chance(random_, 5)) {
-        const int* size = facts().windows[between(random_, 0, std::size(facts().windows) - 1)];
+        const int* size = facts().windows[between(random_, 0, std::ssize(facts().windows) - 1)];
         width = std::max(1, size[0]);
         height = std::max(1, size[1]);
         arg(region_).width = std::min(arg(region_).width, 12);
