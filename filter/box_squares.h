@@ -146,7 +146,7 @@ public:
     ptrdiff_t scratchBytes() const { return columns.scratchBytes(); }
     void start(char* scratch, ptrdiff_t y) { columns.start(scratch, y); }
 
-    [[gnu::noinline]] void group(ptrdiff_t y, int rows, bool last, window::Destination<T> dst) {
+    [[gnu::noinline]] void group(ptrdiff_t y, int rows, bool last, const window::Destination<T>& dst) {
         const ptrdiff_t reach = columns.w.width * Elements, outputs = columns.w.outputs;
         columns.startGroup(y, last ? rows - 1 : rows);
         columns.makeReady(strip + reach);

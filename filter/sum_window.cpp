@@ -12,8 +12,8 @@ namespace {
 
 // Only the 16u forms check the region.
 template <class T>
-PxlStatus checkSum(Image<const T, anyElements> src, Image<float, anyElements> dst, ImageSize roi, ImageSize mask,
-                   ImagePoint anchor) {
+PXL_INLINE PxlStatus checkSum(const Image<const T, anyElements>& src, const Image<float, anyElements>& dst,
+                              ImageSize roi, ImageSize mask, ImagePoint anchor) {
     return check(null(src, dst), refuse(std::is_same_v<T, uint16_t> && isEmpty(roi), PXL_E_SIZE), window::mask(mask),
                  window::anchor(anchor, mask));
 }
@@ -136,14 +136,14 @@ void storeAndMove(ptrdiff_t n, const T* entering, const T* leaving, float* sums,
 }
 
 template <class T>
-[[gnu::noinline]] PxlStatus sumColumns(Image<const T, anyElements> src, Image<float, anyElements> dst, ImageSize roi,
-                                       int maskSize, int anchor) {
+[[gnu::noinline]] PxlStatus sumColumns(const Image<const T, anyElements>& src, const Image<float, anyElements>& dst,
+                                       ImageSize roi, int maskSize, int anchor) {
     const ImageSize mask{1, maskSize};
     const ImagePoint place{0, anchor};
     if (const PxlStatus status = checkSum<T>(src, dst, roi, mask, place)) return status;
     if (roi.height < 1) return PXL_OK;
     const window::Windows<T> windows(window::wholeSteps(src), false, roi, window::maskShape(mask, place));
-    dst = window::wholeSteps(dst);
+    const Image<float, anyElements> to = window::wholeSteps(dst);
     const ptrdiff_t width = windows.outputs;
     const Scratch<float> scratch(width);
     if (!scratch) return PXL_E_MEM_ALLOC;
@@ -151,8 +151,8 @@ template <class T>
     std::memset(sums, 0, static_cast<size_t>(width) * sizeof(float));
     for (int j = 0; j < maskSize; ++j) addRow(width, windows.row(j), sums);
     for (int y = 0; y + 1 < roi.height; ++y)
-        storeAndMove(width, windows.row(ptrdiff_t{y} + maskSize), windows.row(y), sums, dst.at(0, y));
-    std::memcpy(dst.at(0, roi.height - 1), sums, static_cast<size_t>(width) * sizeof(float));
+        storeAndMove(width, windows.row(ptrdiff_t{y} + maskSize), windows.row(y), sums, to.at(0, y));
+    std::memcpy(to.at(0, roi.height - 1), sums, static_cast<size_t>(width) * sizeof(float));
     return PXL_OK;
 }
 
