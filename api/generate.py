@@ -8,6 +8,7 @@ the generic tests iterate over.
     generate.py names                prints every exported name
 """
 
+import dataclasses
 import sys
 from pathlib import Path
 
@@ -89,9 +90,12 @@ def passed_argument(param, step, member):
 
 
 def passed_arguments(member):
-    arguments, params = [], iter(member.passed)
-    for param in params:
-        step = next(params) if param.role in v.IMAGES else None
+    arguments, params = [], list(member.passed)
+    while params:
+        param = params.pop(0)
+        step = params.pop(0) if param.role in v.IMAGES else None
+        if any(p.name == param.name for p in params): # in place: first as the source, which is only read
+            param = dataclasses.replace(param, role="Source")
         arguments.append(passed_argument(param, step, member))
     return ", ".join(arguments)
 
