@@ -41,8 +41,9 @@ struct Image<T, anyElements, anyElements> {
     ptrdiff_t pixelBytes;
 
     Image(T* p, ptrdiff_t rowStep, ptrdiff_t bytesOfPixel) : base(p), step(rowStep), pixelBytes(bytesOfPixel) {}
-    template <int Elements, int Channels>
-    Image(const Image<T, Elements, Channels>& image) : Image(image.base, image.step, image.pixelBytes) {}
+    template <class U, int Elements, int Channels>
+    requires std::is_convertible_v<U*, T*> Image(const Image<U, Elements, Channels>& image)
+        : Image(image.base, image.step, image.pixelBytes) {}
 
     T* at(ptrdiff_t x, ptrdiff_t y) const {
         using Byte = std::conditional_t<written, char, const char>;
@@ -86,5 +87,10 @@ struct Values {
         return value;
     }
 };
+
+template <class T, int Count>
+inline auto bytesOf(const Values<T, Count>& values) {
+    return Values<uint8_t, Count* static_cast<int>(sizeof(T))>{reinterpret_cast<const uint8_t*>(values.base)};
+}
 
 } // namespace pxl::PXL_TARGET
