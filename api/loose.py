@@ -61,12 +61,6 @@ CALLS = {
         "LShiftC": "LShiftC<{S}, {elements}, {channels}>",
         "RShiftC": "RShiftC<{S}, {elements}, {channels}>",
     },
-    "exchange/copy.cpp": {
-        "CopyElements": "CopyElements<{D}, {elements}>",
-        "CopyColour": "CopyColour<{D}>",
-        "CopyToColour": "CopyToColour<{D}>",
-        "CopyFromColour": "CopyFromColour<{D}>",
-    },
     "exchange/copy_masked.cpp": {
         "CopyMasked": "CopyMasked<{D}, {elements}>",
         "CopyColourMasked": "CopyColourMasked<{D}>",
@@ -82,14 +76,6 @@ CALLS = {
         "SetChannel": "SetChannel<{D}, {elements}>",
         "SetMasked": "SetMasked<{D}, {elements}>",
         "SetColourMasked": "SetColourMasked<{D}>",
-    },
-    "exchange/swap_channels.cpp": {
-        "Duplicate": "Duplicate<{D}>",
-        "SwapChannels": "SwapChannels<{D}, {elements}>",
-        "SwapChannelsInPlace3": "SwapChannelsInPlace3<{D}>",
-        "SwapChannelsInPlace4": "SwapChannelsInPlace4<{D}>",
-        "SwapChannels3To4": "SwapChannels3To4<{D}>",
-        "SwapChannels4To3": "SwapChannels4To3<{D}>",
     },
     "exchange/convert.cpp": {
         "Convert": "Convert<{S}, {D}, {elements}, {channels}>",
