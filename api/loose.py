@@ -61,10 +61,6 @@ CALLS = {
         "LShiftC": "LShiftC<{S}, {elements}, {channels}>",
         "RShiftC": "RShiftC<{S}, {elements}, {channels}>",
     },
-    "exchange/copy_masked.cpp": {
-        "CopyMasked": "CopyMasked<{D}, {elements}>",
-        "CopyColourMasked": "CopyColourMasked<{D}>",
-    },
     "exchange/copy_channels.cpp": {
         "CopyChannel": "CopyChannel<{D}, {srcElements}, {elements}>",
         "Split": "Split<{D}, {srcElements}>",
