@@ -66,13 +66,6 @@ CALLS = {
         "Split": "Split<{D}, {srcElements}>",
         "Merge": "Merge<{D}, {elements}>",
     },
-    "exchange/set.cpp": {
-        "SetElements": "SetElements<{D}, {elements}>",
-        "SetColour": "SetColour<{D}>",
-        "SetChannel": "SetChannel<{D}, {elements}>",
-        "SetMasked": "SetMasked<{D}, {elements}>",
-        "SetColourMasked": "SetColourMasked<{D}>",
-    },
     "exchange/convert.cpp": {
         "Convert": "Convert<{S}, {D}, {elements}, {channels}>",
         "ConvertRounded": "ConvertRounded<{D}, {elements}, {channels}>",
