@@ -61,11 +61,6 @@ CALLS = {
         "LShiftC": "LShiftC<{S}, {elements}, {channels}>",
         "RShiftC": "RShiftC<{S}, {elements}, {channels}>",
     },
-    "exchange/copy_channels.cpp": {
-        "CopyChannel": "CopyChannel<{D}, {srcElements}, {elements}>",
-        "Split": "Split<{D}, {srcElements}>",
-        "Merge": "Merge<{D}, {elements}>",
-    },
     "exchange/convert.cpp": {
         "Convert": "Convert<{S}, {D}, {elements}, {channels}>",
         "ConvertRounded": "ConvertRounded<{D}, {elements}, {channels}>",
