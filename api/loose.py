@@ -75,13 +75,6 @@ CALLS = {
         "ScaleToFloat": "ScaleToFloat<{elements}, {channels}>",
         "ScaleFromFloat": "ScaleFromFloat<{elements}, {channels}>",
     },
-    "exchange/border.cpp": {
-        "CopyConstBorder": "CopyConstBorder<{D}, {elements}, {channels}>",
-        "CopyReplicateBorder": "CopyReplicateBorder<{D}, {elements}, {channels}>",
-        "ReplicateBorderInPlace": "ReplicateBorderInPlace<{D}, {elements}, {channels}>",
-        "CopyWrapBorder": "CopyWrapBorder<{D}>",
-        "WrapBorderInPlace": "WrapBorderInPlace<{D}>",
-    },
     "exchange/mirror.cpp": {
         "Mirror": "Mirror<{D}, {elements}, {channels}>",
         "MirrorInPlace": "MirrorInPlace<{D}, {elements}, {channels}>",

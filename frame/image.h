@@ -51,6 +51,13 @@ struct Image<T, anyElements, anyElements> {
     }
 };
 
+// The image whose first pixel is pixel (x, y) of this one.
+template <class I>
+inline I startingAt(I image, ptrdiff_t x, ptrdiff_t y) {
+    image.base = image.at(x, y);
+    return image;
+}
+
 // Channels alike: every element a pixel of its own. The region is then so many times as wide.
 template <class T, int Elements, int Channels>
 inline Image<T> elementsOf(const Image<T, Elements, Channels>& image) {
