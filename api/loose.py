@@ -75,10 +75,6 @@ CALLS = {
         "ScaleToFloat": "ScaleToFloat<{elements}, {channels}>",
         "ScaleFromFloat": "ScaleFromFloat<{elements}, {channels}>",
     },
-    "exchange/mirror.cpp": {
-        "Mirror": "Mirror<{D}, {elements}, {channels}>",
-        "MirrorInPlace": "MirrorInPlace<{D}, {elements}, {channels}>",
-    },
     "exchange/transpose.cpp": {
         "Transpose": "Transpose<{D}, {elements}>",
         "TransposeInPlace": "TransposeInPlace<{D}, {elements}>",
