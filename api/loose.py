@@ -75,10 +75,6 @@ CALLS = {
         "ScaleToFloat": "ScaleToFloat<{elements}, {channels}>",
         "ScaleFromFloat": "ScaleFromFloat<{elements}, {channels}>",
     },
-    "exchange/transpose.cpp": {
-        "Transpose": "Transpose<{D}, {elements}>",
-        "TransposeInPlace": "TransposeInPlace<{D}, {elements}>",
-    },
     "filter/filter.cpp": {
         "Filter": "Filter<{S}, {elements}, {channels}>",
         "FilterFloat": "FilterFloat<{S}, {elements}, {channels}>",
