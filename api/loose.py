@@ -65,10 +65,6 @@ CALLS = {
         "Convert": "Convert<{S}, {D}, {elements}, {channels}>",
         "ConvertRounded": "ConvertRounded<{D}, {elements}, {channels}>",
     },
-    "exchange/bits.cpp": {
-        "ditherToBits": "ownDitherToBits",
-        "unpackBits": "ownUnpackBits",
-    },
     "exchange/scale.cpp": {
         "ScaleWiden": "ScaleWiden<{D}, {elements}, {channels}>",
         "ScaleNarrow": "ScaleNarrow<{S}, {elements}, {channels}>",
