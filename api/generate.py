@@ -12,20 +12,23 @@ import dataclasses
 import sys
 from pathlib import Path
 
+import prose
 import registry
 import vocabulary as v
 
 ROOT = Path(__file__).parent.parent
-RULE = "-" * 110
+RULE = "-" * 117
 
 
 def header_text():
-    parts = [(registry.API / "preamble.h").read_text()]
-    for _, title, families in registry.load():
-        parts.append(f"/* ==== {title} {'=' * (113 - len(title))} */\n")
+    rooms = registry.load()
+    preamble = (registry.API / "preamble.h").read_text()
+    parts = [preamble.replace("    /* STATUS CODES */", prose.codes_text([f for _, _, families in rooms for f in families]))]
+    for _, title, families in rooms:
+        parts.append(f"/* ==== {title} {'=' * (108 - len(title))} */\n")
         for family in families:
-            doc = "\n".join(f" * {line}".rstrip() for line in family.doc.splitlines())
-            parts.append(f"\n/* {RULE}\n * {family.title} ({family.file})\n *\n{doc}\n */\n")
+            text = f"{family.title} ({family.file})\n\n{family.doc}\n\n{prose.statuses_text(family.statuses)}"
+            parts.append(f"\n/* {RULE}\n{prose.comment(text)}\n */\n")
             parts += [wrap(f"{m.c_prototype};") + "\n" for m in family.members]
         parts.append("\n")
     parts.append('#include "pxl_linkage.h"\n\n#endif\n')

@@ -15,6 +15,11 @@ SUBSYSTEMS = [  # header order
     ("arith", "Arithmetic and logic"),
     ("filter", "Filters"),
 ]
+LAYOUTS = {  # names that stand for several layouts; modes follow them: "pixels R IR"
+    "pixels": ("C1", "C3", "C4"),
+    "pixels+alpha": ("C1", "C3", "C4", "AC4"),
+    "complex": ("C1", "C3", "AC4"),
+}
 
 
 @dataclass
@@ -66,7 +71,8 @@ class Family:
     name: str
     title: str
     file: str
-    doc: str
+    doc: str                 # see prose.py
+    statuses: list           # in the order in which they are tested; see prose.py
     members: list
 
     @property
@@ -90,7 +96,8 @@ def _families(path):
     families = []
     for entry in data["family"]:
         members = [m for form in entry["form"] for m in _members(entry, form)]
-        families.append(Family(entry["name"], entry.get("title", entry["name"]), entry["file"], entry["doc"].strip(), members))
+        families.append(Family(entry["name"], entry.get("title", entry["name"]), entry["file"], entry["doc"].strip(),
+                               entry.get("statuses", []), members))
     return families
 
 
@@ -99,7 +106,16 @@ def _members(entry, form):
         prototype = form["prototype"]
         name = prototype.partition("(")[0].split()[-1].lstrip("*")
         return [Member(name, entry["name"], prototype=prototype, call=form["call"])]
-    return [_member(entry, form, types, code) for types in form["types"] for code in form["layouts"]]
+    return [_member(entry, form, types, code) for types in form["types"] for code in _layout_codes(form["layouts"])]
+
+
+def _layout_codes(words):
+    """['pixels R IR', 'C3CR'] -> ['C1R', 'C3R', 'C4R', 'C1IR', 'C3IR', 'C4IR', 'C3CR']"""
+    codes = []
+    for word in words:
+        name, *modes = word.split()
+        codes += [layout + mode for mode in modes for layout in LAYOUTS[name]] if modes else [name]
+    return codes
 
 
 def _member(entry, form, types, code):

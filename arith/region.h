@@ -2,14 +2,14 @@
 //
 // An operation is a callable object over vectors, Vec<Lane> op(Vec<Lane>, Vec<Lane>), with whatever it needs (shift
 // counts, factors) set up once per call. It is compiled into one row function, which serves all layouts: constants are a
-// short row of pixels that is read again and again, complex elements are pairs of lanes, and AC4 rows blend. The walk over
+// short row of pixels that is read again and again, complex elements are pairs of lanes, and AC4 rows IfThenElse. The walk over
 // the region is the same code for all operations.
 #pragma once
 
-#include "frame/vec.h"
-#include "frame/vec_ends.h"
-#include "frame/vec_pattern.h"
-#include "frame/vec_stream.h"
+#include "frame/vec/mask.h"
+#include "frame/vec/memory.h"
+#include "frame/vec/partial.h"
+#include "frame/vec/pattern.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
@@ -79,17 +79,6 @@ struct ConstantRow {
         }
     }
 };
-
-// The lanes of a vector of AC4 pixels that keep their value, for every place in a pixel where the vector may begin.
-template <int ElementBytes>
-struct AlphaBytes {
-    alignas(vecBytes) uint8_t bytes[3 * vecBytes];
-    constexpr AlphaBytes() : bytes{} {
-        for (int k = 0; k < 3 * vecBytes; ++k) bytes[k] = k / ElementBytes % 4 == 3 ? 0xFF : 0;
-    }
-};
-template <int ElementBytes>
-inline constexpr AlphaBytes<ElementBytes> alphaBytes;
 
 // The shape of a pixel.
 struct Layout {
@@ -227,14 +216,14 @@ void elementRow(ptrdiff_t n, const void* from, const void* with, void* to, const
     if (plan.streams(d)) x = streamRow(last, a, b, plan.still, d, op);
     const ptrdiff_t advance = plan.still ? 0 : run;
     for (; x + run <= last; x += run, b += advance) {
-        // The empty statements keep loads and stores in ascending order, which the caches reward.
+        // Computed where they stand, they keep loads and stores in ascending order, which the caches reward.
         const Vec<L> first = op(LoadU(a + x), LoadU(b));
-        asm volatile("" ::"x"(first.raw));
+        ComputeHere(first);
         const Vec<L> second = op(LoadU(a + x + step), LoadU(b + step));
-        asm volatile("" ::"x"(second.raw));
+        ComputeHere(second);
         const Vec<L> third = op(LoadU(a + x + 2 * step), LoadU(b + 2 * step));
         StoreU(first, d + x);
-        asm volatile("" ::"x"(third.raw));
+        ComputeHere(third);
         StoreU(second, d + x + step);
         StoreU(third, d + x + 2 * step);
     }

@@ -1,8 +1,8 @@
 // Shifts of every element by one count per channel. Counts from the element's width up give 0, or the sign for right shifts of
 // signed types. Checks come in the order pointers, steps, size.
+#include "arith/lane_shifts.h"
 #include "arith/rows.h"
 #include "frame/checks.h"
-#include "frame/vec_shift.h"
 
 namespace pxl::PXL_TARGET {
 namespace {

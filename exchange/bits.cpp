@@ -1,10 +1,9 @@
 // One-bit images: eight pixels per byte, the first in the most significant bit, rows that start at any bit. Unpacking
 // writes 255 or 0; packing dithers, see exchange/diffusion.h.
+#include "exchange/bit_vectors.h"
 #include "exchange/diffusion.h"
 #include "frame/checks.h"
 #include "frame/memory.h"
-#include "frame/vec.h"
-#include "frame/vec_bits.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
@@ -31,12 +30,9 @@ PXL_INLINE Vec<uint8_t> unpackVector(uint64_t bits) { return ExpandBits<0>(__bui
 
 PXL_INLINE void unpack64(uint64_t bits, uint8_t* d) {
     const uint64_t bytes = __builtin_bswap64(bits);
-    StoreU(ExpandBits<0>(bytes), d);
-    StoreU(ExpandBits<1>(bytes), d + vecBytes);
-    if constexpr (!isAvx2) {
-        StoreU(ExpandBits<2>(bytes), d + 2 * vecBytes);
-        StoreU(ExpandBits<3>(bytes), d + 3 * vecBytes);
-    }
+    unrolled<64 / vecBytes>([&](auto part) __attribute__((always_inline)) {
+        StoreU(ExpandBits<part>(bytes), d + part * vecBytes);
+    });
 }
 
 // n < 64; the last vector overlaps the one before it.

@@ -8,9 +8,8 @@
 // other because the step is small, the plain loop over pixels defines the result. In place the source lies inside the
 // destination and is not moved.
 #include "frame/checks.h"
-#include "frame/vec.h"
-#include "frame/vec_mask.h"
-#include "frame/vec_pattern.h"
+#include "frame/vec/memory.h"
+#include "frame/vec/pattern.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
@@ -72,16 +71,16 @@ void copyColours(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     const Vec<uint8_t> alpha = alphaPattern<Bytes>().v[0];
     const ptrdiff_t last = bytes - Bytes;
     ptrdiff_t o = 0;
-    for (; o + vecBytes <= last; o += vecBytes) StoreU(blend(alpha, LoadU(d + o), LoadU(s + o)), d + o);
+    for (; o + vecBytes <= last; o += vecBytes) StoreU(IfThenElse(alpha, LoadU(d + o), LoadU(s + o)), d + o);
     const auto copyPiece = [&](auto size) __attribute__((always_inline)) {
         if (!(last & size)) return;
-        storePiece<size>(blend(headOf(ints(alpha)), loadPiece<size>(d + o), loadPiece<size>(s + o)), d + o);
+        StoreBlock<size>(IfThenElse(headOf(alpha), LoadBlock<size>(d + o), LoadBlock<size>(s + o)), d + o);
         o += size;
     };
     if constexpr (vecBytes > 16) copyPiece(std::integral_constant<int, 16>{});
     if constexpr (Bytes <= 8) copyPiece(std::integral_constant<int, 8>{});
     if constexpr (Bytes <= 4) copyPiece(std::integral_constant<int, 4>{});
-    storePiece<colourBytes<Bytes>>(loadPiece<colourBytes<Bytes>>(s + last), d + last);
+    StoreBlock<colourBytes<Bytes>>(LoadBlock<colourBytes<Bytes>>(s + last), d + last);
 }
 
 template <int Bytes, int Processed>

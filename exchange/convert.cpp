@@ -24,7 +24,7 @@ struct KeepValue {
 
     PXL_INLINE Vec<Lane> operator()(Vec<S> v) const {
         if constexpr (sizeof(S) < sizeof(D))
-            return PromoteFirst<D>(v);
+            return PromoteTo<D>(v);
         else if constexpr (std::is_same_v<S, uint16_t>)
             return BitCast<Lane>(Min255(v)); // narrowing takes its lanes for signed ones
         else

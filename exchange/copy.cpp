@@ -2,7 +2,7 @@
 // that of the source.
 #include "exchange/group_rows.h"
 #include "frame/checks.h"
-#include "frame/vec.h"
+#include "frame/vec/memory.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
@@ -57,7 +57,7 @@ PxlStatus copyColour(Image<const T, SrcElements, 3> src, Image<T, DstElements, 3
     } else {
         const auto change = [](Vec<T> s, Vec<T> old) {
             if constexpr (SrcElements == 3) s = ExpandGroups(s);
-            return IfThenElse(colourMask4<T>(), s, old);
+            return KeepAlpha(old, s);
         };
         walkGroups(roi, change, src, dst);
     }

@@ -6,7 +6,8 @@
 #include "frame/checks.h"
 #include "frame/row_parts.h"
 #include "frame/streaming.h"
-#include "frame/vec_interleave.h"
+#include "frame/vec/channels.h"
+#include "frame/vec/partial.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
@@ -30,9 +31,9 @@ PXL_INLINE void extractChannelRow(ptrdiff_t n, const T* s, T* d) {
         loadPixels<P>(s + x * N - Channel, v);
         return gatherChannel<Channel>(v);
     };
-    const auto part = [&]<int P>(Part<P> p, ptrdiff_t x) { StorePart<P>(channel(p, ChannelOf<0>{}, x), d + x); };
+    const auto part = [&]<int P>(Part<P> p, ptrdiff_t x) { StoreFirst<P>(channel(p, ChannelOf<0>{}, x), d + x); };
     const auto end = [&]<int P>(Part<P> p, ptrdiff_t x) {
-        return [v = channel(p, ChannelOf<N - 1>{}, x), at = d + x] { StorePart<P>(v, at); };
+        return [v = channel(p, ChannelOf<N - 1>{}, x), at = d + x] { StoreFirst<P>(v, at); };
     };
     if (rowByPartsAndEnd<lanes<T>, leastPart<T>>(n, part, end)) return;
     for (ptrdiff_t x = 0; x < n; ++x) store1(d + x, load1(s + x * N));
@@ -63,7 +64,7 @@ PXL_INLINE bool replaceChannelRow(ptrdiff_t n, Source source, T* d) {
 template <class T, int N>
 PXL_INLINE void insertChannelRow(ptrdiff_t n, const T* s, T* d) {
     const auto spread = [&]<int P, int Channel>(Part<P>, ChannelOf<Channel>, ptrdiff_t x, Vec<T>(&v)[N]) {
-        spreadChannel<Channel>(LoadPart<P>(s + x), v);
+        spreadChannel<Channel>(LoadFirst<P>(s + x), v);
     };
     if (replaceChannelRow<T, N>(n, spread, d)) return;
     for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x));
@@ -127,7 +128,7 @@ PXL_INLINE void splitPart(const T* s, T* const (&d)[Count], ptrdiff_t x) {
     loadPixels<P>(s + x * Count, v);
     deinterleave(v);
 #pragma GCC unroll 4
-    for (int p = 0; p < Count; ++p) StorePart<P>(v[p], d[p] + x);
+    for (int p = 0; p < Count; ++p) StoreFirst<P>(v[p], d[p] + x);
 }
 
 // A line of each plane, so that no line waits half filled for the others: few can be on their way at a time.
@@ -165,7 +166,7 @@ PXL_INLINE void splitRow(ptrdiff_t n, const T* s, T* const (&d)[Count], Storing 
             fetchPlanes(d, x + fetchedParts * most);
             splitPart<most>(s, d, x);
         }
-    const auto part = [&]<int P>(Part<P>, ptrdiff_t at) { splitPart<P>(s, d, at); };
+    const auto part = [&]<int P>(Part<P>, ptrdiff_t at) __attribute__((always_inline)) { splitPart<P>(s, d, at); };
     if (!rowByParts<most, leastPart<T>>(n, part, x)) splitPixels(n, s, d);
 }
 
@@ -182,7 +183,7 @@ template <class Stores, int P, class T, int Count>
 PXL_INLINE void mergePart(const T* const (&s)[Count], T* d, ptrdiff_t x) {
     Vec<T> v[Count];
 #pragma GCC unroll 4
-    for (int p = 0; p < Count; ++p) v[p] = LoadPart<P>(s[p] + x);
+    for (int p = 0; p < Count; ++p) v[p] = LoadFirst<P>(s[p] + x);
     interleave(v);
     storePixels<P, Stores>(v, d + x * Count);
 }
@@ -198,7 +199,9 @@ PXL_INLINE void mergeRow(ptrdiff_t n, const T* const (&s)[Count], T* d, Storing 
             fetchForStores<Count * vecBytes>(d + (x + fetchedParts * most) * Count);
             mergePart<Cached, most>(s, d, x);
         }
-    const auto part = [&]<int P>(Part<P>, ptrdiff_t at) { mergePart<Cached, P>(s, d, at); };
+    const auto part = [&]<int P>(Part<P>, ptrdiff_t at) __attribute__((always_inline)) {
+        mergePart<Cached, P>(s, d, at);
+    };
     if (!rowByParts<most, leastPart<T>>(n, part, x)) mergePixels(n, s, d);
 }
 

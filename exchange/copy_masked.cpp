@@ -4,7 +4,6 @@
 // the source need not end with a fourth element.
 #include "exchange/masked_row.h"
 #include "frame/checks.h"
-#include "frame/vec.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
@@ -20,9 +19,9 @@ template <int E>
 void copyColourRow(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m) {
     const ptrdiff_t last = (n - 1) * E;
     blendRow<E>(n - 1, m, d, RowSource{s}, alphaPattern<E>());
-    const Piece keep = widenMask<E>(zeroBytes(loadPiece<1>(m + n - 1)));
+    const Block keep = widenMask<E>(ZeroBytes(LoadBlock<1>(m + n - 1)));
     constexpr int colour = colourBytes<E>;
-    storePiece<colour>(blend(keep, loadPiece<colour>(d + last), loadPiece<colour>(s + last)), d + last);
+    StoreBlock<colour>(IfThenElse(keep, LoadBlock<colour>(d + last), LoadBlock<colour>(s + last)), d + last);
 }
 
 using Row = void(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m);

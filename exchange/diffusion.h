@@ -10,8 +10,8 @@
 // behind the one above.
 #pragma once
 
-#include "frame/vec.h"
-#include "frame/vec_bits.h"
+#include "exchange/bit_vectors.h"
+#include "frame/vec/convert.h"
 #include "frame/walk.h"
 
 namespace pxl::PXL_TARGET::exchange {
@@ -137,10 +137,8 @@ private:
 
     // All ones where a lane is inside its row.
     Vec<int32_t> inside(ptrdiff_t t) const {
-        alignas(vecBytes) static constexpr int32_t lags[] = {0,       lag,     2 * lag, 3 * lag,
-                                                             4 * lag, 5 * lag, 6 * lag, 7 * lag};
         const auto near = [](ptrdiff_t v) { return static_cast<int32_t>(v < -1 ? -1 : v > lastLag ? lastLag : v); };
-        const Vec<int32_t> delay = LoadU(lags);
+        const Vec<int32_t> delay = fromLanes<int32_t, [](int r) { return lag * r; }>();
         const Mask<int32_t> started = delay <= Set<int32_t>(near(t));
         return BitCast<int32_t>(started & (delay > Set<int32_t>(near(t - width_))));
     }
@@ -168,7 +166,7 @@ private:
         const Vec<int32_t> error8 = ShiftLeft<3>(error), error3 = error + error + error;
         shares.right = ShiftRight<4>(error8 - error);
         sendBelow<Inner>(shares, t, ShiftRight<4>(error3), ShiftRight<4>(error8 - error3), ShiftRight<4>(error));
-        return SignBits(set);
+        return BitsFromMask(set);
     }
 
     // Completes the share of the pixel below left, which the next lane needs lag - 1 steps later. The last lane's goes
@@ -180,9 +178,9 @@ private:
         shares.started = below + shares.belowRight;
         shares.belowRight = right;
         shares.next = shares.afterNext;
-        shares.afterNext = RotateUp(complete);
+        shares.afterNext = Shuffle2<[](int i) { return (i + bandRows - 1) % bandRows; }>(complete, complete);
         const ptrdiff_t x = t - lastLag - 1;
-        if (Inner || (x >= 0 && x < width_)) carried_[x] = FirstLane(shares.afterNext);
+        if (Inner || (x >= 0 && x < width_)) carried_[x] = shares.afterNext.raw[0];
     }
 
     const int32_t level_;

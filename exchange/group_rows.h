@@ -1,10 +1,10 @@
-// Rows of pixels whose three or four elements are changed group by group (frame/vec_groups.h), with the source disjoint
+// Rows of pixels whose three or four elements are changed group by group (exchange/groups.h), with the source disjoint
 // from the destination or exactly in place. A source's fourth element that is not processed may lie outside the caller's
 // memory, and is not read there.
 #pragma once
 
+#include "exchange/groups.h"
 #include "frame/streaming.h"
-#include "frame/vec_groups.h"
 
 namespace pxl::PXL_TARGET::exchange {
 
@@ -24,18 +24,18 @@ PXL_INLINE Vec<T> changed(const Change& change, Vec<T> source, Old old) {
 template <class T, int Elements, int Read = Elements>
 PXL_INLINE Vec<T> loadGroup(const T* p) {
     constexpr int unread = (Elements - Read) * static_cast<int>(sizeof(T)); // of the last pixel
-    return fromInts<T>(fromBlock(loadBlock<4 * Elements - unread>(p)));
+    return ZeroExtend<T>(LoadBlock<4 * Elements - unread>(p));
 }
 template <int Elements, class T>
 PXL_INLINE void storeGroup(Vec<T> v, T* p) {
-    storeBlock<4 * Elements>(lowerBlock(ints(v)), p);
+    StoreBlock<4 * Elements>(ExtractBlock<0>(v), p);
 }
 
 // Four vectors of groups.
 template <int Elements, class T>
 PXL_INLINE void loadGroups(const T* p, Vec<T> (&v)[4]) {
     if constexpr (Elements == 3) {
-        LoadGroups3(p, v[0], v[1], v[2], v[3]);
+        LoadGroups3(p, v);
     } else {
 #pragma GCC unroll 4
         for (int i = 0; i < 4; ++i) v[i] = LoadU(p + i * lanes<T>);
@@ -44,7 +44,7 @@ PXL_INLINE void loadGroups(const T* p, Vec<T> (&v)[4]) {
 template <int Elements, class Stores, class T>
 PXL_INLINE void storeGroups(const Vec<T> (&v)[4], T* p) {
     if constexpr (Elements == 3) {
-        StoreGroups3<Stores>(v[0], v[1], v[2], v[3], p);
+        StoreGroups3<Stores>(v, p);
     } else {
 #pragma GCC unroll 4
         for (int i = 0; i < 4; ++i) Stores::store(v[i], p + i * lanes<T>);
@@ -101,7 +101,7 @@ template <class Src, class Dst, class T, class Change>
 [[gnu::noinline]] void changeRow(ptrdiff_t n, const T* s, T* d, bool streamed, const Change& constants) {
     const Change change = constants; // to registers, which no store can change
     constexpr int group = groupPixels<T>;
-    constexpr int block = 4 * vecGroups * group;
+    constexpr int block = 4 * vecBlocks * group;
     if (n < group) return changePixels<Src, Dst>(n, s, d, change);
     const auto source = [&](ptrdiff_t x) { return loadSourceGroup<Src>(s + x * Src::elements); };
     // What is left of a group at the end is done with the pixels before it, which are loaded before anything is stored.

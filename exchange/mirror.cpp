@@ -6,37 +6,25 @@
 //
 // The in-place form exchanges two disjoint rows, or the two halves of a row, through a small buffer, so both forms
 // share the row moves. Rows that overlap in any other way are moved pixel by pixel, source rows in ascending order.
+#include "exchange/reverse.h"
 #include "frame/checks.h"
 #include "frame/pixel.h"
-#include "frame/vec.h"
-#include "frame/vec_reverse.h"
+#include "frame/vec/mask.h"
+#include "frame/vec/memory.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
 namespace pxl::PXL_TARGET::exchange {
 namespace {
 
-// The bytes of a register that move: all but the alpha of every pixel.
-template <int Bytes, int Moved>
-struct MovedBytes {
-    alignas(vecBytes) uint8_t mask[vecBytes];
-    constexpr MovedBytes() : mask() {
-        for (int i = 0; i < vecBytes; ++i) mask[i] = i % Bytes < Moved ? 0xFF : 0;
-    }
-};
-
-template <int Bytes, int Moved>
-inline constexpr MovedBytes<Bytes, Moved> movedBytes;
-
-// What is stored at d where v moves there.
-template <int Bytes, int Moved>
+// What is stored at d where pixels of AC4 move there.
+template <int Bytes>
 PXL_INLINE Vec<uint8_t> keepingAlpha(Vec<uint8_t> v, const uint8_t* d) {
-    return IfThenElse(LoadU(movedBytes<Bytes, Moved>.mask), v, LoadU(d));
+    return IfThenElse(LoadU(alphaBytes<Bytes / 4>.bytes), LoadU(d), v);
 }
-template <int Bytes, int Moved>
-PXL_INLINE __m128i keepingAlpha(__m128i v, const uint8_t* d) {
-    const auto mask = loadWord<__m128i>(movedBytes<Bytes, Moved>.mask);
-    return _mm_or_si128(_mm_and_si128(mask, v), _mm_andnot_si128(mask, loadWord<__m128i>(d)));
+template <int Bytes>
+PXL_INLINE Block keepingAlpha(Block v, const uint8_t* d) {
+    return IfThenElse(LoadBlock<16>(alphaBytes<Bytes / 4>.bytes), loadWord<Block>(d), v);
 }
 
 // Fills a run of at least one register with make(x), the register at x. The last one may overlap the one before: the
@@ -85,9 +73,9 @@ template <int Bytes, int Moved>
 PXL_INLINE void copyRowKeepingAlpha(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     const ptrdiff_t last = bytes - Bytes;
     if (last >= vecBytes)
-        byRegisters(d, last, [=](ptrdiff_t x) { return keepingAlpha<Bytes, Moved>(LoadU(s + x), d + x); });
+        byRegisters(d, last, [=](ptrdiff_t x) { return keepingAlpha<Bytes>(LoadU(s + x), d + x); });
     else if (last >= 16)
-        byEnds(d, last, [=](ptrdiff_t x) { return keepingAlpha<Bytes, Moved>(loadWord<__m128i>(s + x), d + x); });
+        byEnds(d, last, [=](ptrdiff_t x) { return keepingAlpha<Bytes>(loadWord<Block>(s + x), d + x); });
     else
         for (ptrdiff_t x = 0; x < last; x += Bytes) movePixel<Moved>(s + x, d + x);
     movePixel<Moved>(s + last, d + last);
@@ -100,9 +88,9 @@ PXL_INLINE void reverseRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     const uint8_t* end = s + bytes;
     if (bytes >= vecBytes)
         return byRegisters(d, bytes, [=](ptrdiff_t x) { return LoadReversed<Bytes>(end - vecBytes - x); });
-    if constexpr (isAvx2)
+    if constexpr (vecBytes > 16)
         if (bytes >= 16)
-            return byEnds(d, bytes, [=](ptrdiff_t x) { return reverseBlocks<Bytes>(loadWord<__m128i>(end - 16 - x)); });
+            return byEnds(d, bytes, [=](ptrdiff_t x) { return ReverseBlock<Bytes>(loadWord<Block>(end - 16 - x)); });
     if constexpr (Bytes < 8)
         if (bytes >= 8) return byEnds(d, bytes, [=](ptrdiff_t x) { return loadReversed8<Bytes>(end - 8 - x); });
     for (ptrdiff_t x = 0; x < bytes; x += Bytes) movePixel<Bytes>(end - Bytes - x, d + x);
@@ -116,12 +104,11 @@ PXL_INLINE void reverseRowKeepingAlpha(const uint8_t* s, uint8_t* d, ptrdiff_t b
     d += Bytes;
     bytes -= Bytes;
     if (bytes >= vecBytes)
-        return byRegisters(d, bytes, [=](ptrdiff_t x) {
-            return keepingAlpha<Bytes, Moved>(LoadReversed<Bytes>(end - vecBytes - x), d + x);
-        });
+        return byRegisters(
+            d, bytes, [=](ptrdiff_t x) { return keepingAlpha<Bytes>(LoadReversed<Bytes>(end - vecBytes - x), d + x); });
     if (bytes >= 16)
         return byEnds(d, bytes, [=](ptrdiff_t x) {
-            return keepingAlpha<Bytes, Moved>(reverseBlocks<Bytes>(loadWord<__m128i>(end - 16 - x)), d + x);
+            return keepingAlpha<Bytes>(ReverseBlock<Bytes>(loadWord<Block>(end - 16 - x)), d + x);
         });
     for (ptrdiff_t x = 0; x < bytes; x += Bytes) movePixel<Moved>(end - Bytes - x, d + x);
 }
@@ -131,15 +118,15 @@ template <int Bytes>
 PXL_INLINE void reverseRowOfThrees(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     const uint8_t* end = s + bytes;
     ptrdiff_t x = 0;
-#ifdef __AVX2__
-    if (bytes >= 96) {
-        for (; x + 96 <= bytes; x += 96) storeReversed96<Bytes>(end - x - 96, d + x);
-        if (x < bytes) storeReversed96<Bytes>(s, d + bytes - 96);
-        return;
+    if constexpr (hasByteShuffle) {
+        if (bytes >= 96) {
+            for (; x + 96 <= bytes; x += 96) storeReversed96<Bytes>(end - x - 96, d + x);
+            if (x < bytes) storeReversed96<Bytes>(s, d + bytes - 96);
+            return;
+        }
+        if constexpr (Bytes < 12)
+            for (; x + 16 <= bytes; x += 16 / Bytes * Bytes) storeReversed16<Bytes>(end - x - 16, d + x);
     }
-    if constexpr (Bytes < 12)
-        for (; x + 16 <= bytes; x += 16 / Bytes * Bytes) storeReversed16<Bytes>(end - x - 16, d + x);
-#endif
     constexpr ptrdiff_t word = sizeof(typename PixelWord<Bytes>::type);
     for (; x + word <= bytes; x += Bytes) storePixelWord<Bytes>(end - x - word, d + x);
     for (; x < bytes; x += Bytes) movePixel<Bytes>(end - x - Bytes, d + x);

@@ -4,9 +4,8 @@
 // element or other channels keep their value, whole registers are rewritten with what they held.
 #include "exchange/masked_row.h"
 #include "frame/checks.h"
-#include "frame/vec.h"
-#include "frame/vec_pattern.h"
-#include "frame/vec_stream.h"
+#include "frame/vec/memory.h"
+#include "frame/vec/pattern.h"
 #include "frame/walk.h"
 #include "pxli.h"
 

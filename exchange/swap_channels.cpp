@@ -1,9 +1,10 @@
 // Channel orders: element k of a destination pixel receives element dstOrder[k] of the source pixel. All elements of a
-// pixel are read before one is written. On AVX2 an order is one byte shuffle per group of pixels, made once per call;
-// on SSE2, which has none, channels are taken apart and put together again.
+// pixel are read before one is written. With shuffles of bytes an order is one of them per group of pixels, made once
+// per call; without, channels are taken apart and put together again.
 #include "exchange/group_rows.h"
 #include "frame/checks.h"
 #include "frame/row_parts.h"
+#include "frame/vec/partial.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
@@ -30,28 +31,6 @@ auto order(const int32_t* dstOrder, int32_t last) {
 }
 
 // ---- rows ---------------------------------------------------------------------------------------------------------
-
-#ifdef __AVX2__
-
-// Keeps: entries may say that the destination keeps its element.
-template <int Entries, bool Keeps, class Src, class Dst>
-void swap(Src src, Dst dst, ImageSize roi, const int32_t* dstOrder, typename Dst::Element value = 0) {
-    using T = typename Dst::Element;
-    const OrderLookup<T, Src::elements, Dst::elements, Entries> lookup(dstOrder, value);
-    const auto swapped = [=](Vec<T> source) {
-        if constexpr (Src::elements < Dst::elements)
-            return lookup(source) | lookup.value;
-        else
-            return lookup(source);
-    };
-    if constexpr (Keeps)
-        walkGroups(
-            roi, [=](Vec<T> source, Vec<T> old) { return swapped(source) | (old & lookup.keep); }, src, dst);
-    else
-        walkGroups(roi, swapped, src, dst);
-}
-
-#else
 
 struct Order {
     int32_t from[4] = {keep, keep, keep, keep};
@@ -99,13 +78,26 @@ PXL_INLINE void swapRow(ptrdiff_t n, const T* s, T* d, const Order& order, T val
 template <int Entries, bool Keeps, class Src, class Dst>
 void swap(Src src, Dst dst, ImageSize roi, const int32_t* dstOrder, typename Dst::Element value = 0) {
     using T = typename Dst::Element;
-    Order order;
-    std::memcpy(order.from, dstOrder, Entries * sizeof(int32_t));
-    const auto row = [=](ptrdiff_t n, const T* s, T* d) { swapRow<Keeps, Src, Dst>(n, s, d, order, value); };
-    walk(roi, row, src, dst);
+    if constexpr (hasByteShuffle) {
+        const OrderLookup<T, Src::elements, Dst::elements, Entries> lookup(dstOrder, value);
+        const auto swapped = [=](Vec<T> source) {
+            if constexpr (Src::elements < Dst::elements)
+                return lookup(source) | lookup.value;
+            else
+                return lookup(source);
+        };
+        if constexpr (Keeps)
+            walkGroups(
+                roi, [=](Vec<T> source, Vec<T> old) { return swapped(source) | (old & lookup.keep); }, src, dst);
+        else
+            walkGroups(roi, swapped, src, dst);
+    } else {
+        Order order;
+        std::memcpy(order.from, dstOrder, Entries * sizeof(int32_t));
+        const auto row = [=](ptrdiff_t n, const T* s, T* d) { swapRow<Keeps, Src, Dst>(n, s, d, order, value); };
+        walk(roi, row, src, dst);
+    }
 }
-
-#endif
 
 // ---- members ------------------------------------------------------------------------------------------------------
 
@@ -152,7 +144,7 @@ template <class T>
 void duplicateRow(ptrdiff_t n, const T* s, T* d) {
     const auto part = [&]<int P>(Part<P>, ptrdiff_t x) {
         Vec<T> pixels[3];
-        repeatChannel3(LoadPart<P>(s + x), pixels);
+        repeatChannel3(LoadFirst<P>(s + x), pixels);
         storePixels<P>(pixels, d + x * 3);
     };
     if (rowByParts<lanes<T>, leastPart<T>>(n, part)) return;

@@ -7,10 +7,9 @@
 //
 // In place, a tile and its counterpart change places through a buffer. Operands that overlap, and rows that overlap
 // each other, are moved pixel by pixel in reading order.
+#include "exchange/transpose_blocks.h"
 #include "frame/checks.h"
 #include "frame/pixel.h"
-#include "frame/vec.h"
-#include "frame/vec_transpose.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
@@ -72,7 +71,6 @@ void transposeByBlocks(Source<Bytes> src, Destination<Bytes> dst, ptrdiff_t widt
     transposePixels<Bytes>(src, dst, width, height);
 }
 
-#ifdef __AVX2__
 template <int Bytes>
 void transposeByBlocksOfThrees(Source<Bytes> src, Destination<Bytes> dst, ptrdiff_t width, ptrdiff_t height) {
     using Block = TransposeOfThrees<Bytes>;
@@ -80,18 +78,18 @@ void transposeByBlocksOfThrees(Source<Bytes> src, Destination<Bytes> dst, ptrdif
     coverByBlocks<Block::columns, Block::rows>(
         src, dst, width, height, [=](const uint8_t* s, uint8_t* d, ptrdiff_t x, ptrdiff_t y) {
             transposeBlockOfThrees<Bytes>(s, src.step, d, dst.step, (width - x) * Bytes < 16,
-                                          (height - y) * Bytes < 32);
+                                          (height - y) * Bytes < vecBytes);
         });
 }
-#endif
 
 template <int Bytes>
 PXL_INLINE void transposeTile(Source<Bytes> src, Destination<Bytes> dst, ptrdiff_t width, ptrdiff_t height) {
-    if constexpr (Bytes <= 8 && 8 % Bytes == 0) return transposeByBlocks<Bytes>(src, dst, width, height);
-#ifdef __AVX2__
-    if constexpr (Bytes == 3 || Bytes == 6) return transposeByBlocksOfThrees<Bytes>(src, dst, width, height);
-#endif
-    transposePixels<Bytes>(src, dst, width, height);
+    if constexpr (Bytes <= 8 && 8 % Bytes == 0)
+        transposeByBlocks<Bytes>(src, dst, width, height);
+    else if constexpr (hasByteShuffle && (Bytes == 3 || Bytes == 6))
+        transposeByBlocksOfThrees<Bytes>(src, dst, width, height);
+    else
+        transposePixels<Bytes>(src, dst, width, height);
 }
 
 // ---- regions --------------------------------------------------------------------------------------------------------
@@ -104,7 +102,7 @@ constexpr ptrdiff_t cachedBytes = 1 << 20;
 template <int Bytes>
 constexpr ptrdiff_t cachedHeight() {
     if (Bytes > 8) return 8;
-    return isAvx2 || Bytes % 3 ? 64 : 32; // 32 where pixels are moved one by one
+    return hasByteShuffle || Bytes % 3 ? 64 : 32; // 32 where pixels are moved one by one
 }
 
 template <int Bytes>
@@ -112,7 +110,7 @@ inline constexpr ptrdiff_t linePixels = Bytes > 8 ? 8 : (Bytes % 3 ? 64 : 96) / 
 
 void fetchLines(const uint8_t* p, ptrdiff_t step, ptrdiff_t bytes, ptrdiff_t rows) {
     for (ptrdiff_t y = 0; y < rows; ++y, p += step)
-        for (ptrdiff_t x = 0; x < bytes; x += 64) _mm_prefetch(reinterpret_cast<const char*>(p + x), _MM_HINT_T0);
+        for (ptrdiff_t x = 0; x < bytes; x += 64) Prefetch(p + x);
 }
 
 // The first pixel and the count of pixels of one tile along one side of a region.

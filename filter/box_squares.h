@@ -7,7 +7,8 @@
 #pragma once
 
 #include "filter/box_window.h"
-#include "frame/vec_square.h"
+#include "filter/squares.h"
+#include "frame/vec/convert.h"
 
 namespace pxl::PXL_TARGET {
 
@@ -96,15 +97,15 @@ private:
         if constexpr (std::is_same_v<T, Sum>)
             return LoadU(p);
         else
-            return LoadPromoteInt<Sum>(p);
+            return LoadPromote<Sum>(p);
     }
     // The same where rows may be shorter than a vector.
     PXL_INLINE Vec<Sum> fewSamples(const T* p) const {
         if (w.columns >= side) return samples(p);
         if constexpr (std::is_same_v<T, Sum>)
-            return LoadFew<side>(p, w.columns);
+            return LoadN<side>(p, w.columns);
         else
-            return PromoteFirst<Sum>(LoadFew<side>(p, w.columns));
+            return PromoteTo<Sum>(LoadN<side>(p, w.columns));
     }
 
     template <int Vectors>

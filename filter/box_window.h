@@ -1,8 +1,8 @@
 // What the workers of the box filter share: the place of the windows in memory, and the stores that keep an alpha element.
 #pragma once
 
-#include "frame/vec.h"
-#include "frame/vec_convert.h"
+#include "frame/vec/mask.h"
+#include "frame/vec/partial.h"
 #include "pxli.h"
 
 namespace pxl::PXL_TARGET {
@@ -33,12 +33,12 @@ inline void copyKeeping(const T* s, T* d, ptrdiff_t n, bool keepAlpha) {
     ptrdiff_t x = 0;
     for (; x + step <= n; x += step) {
         const Vec<T> v = LoadU(s + x);
-        StoreU(keepAlpha ? KeepEveryFourth<3>(LoadU(d + x), v) : v, d + x);
+        StoreU(keepAlpha ? KeepAlpha(LoadU(d + x), v) : v, d + x);
     }
     const ptrdiff_t rest = n - x;
     if (rest == 0) return;
-    const Vec<T> v = LoadFew<step>(s + x, rest);
-    StoreN(keepAlpha ? KeepEveryFourth<3>(LoadFew<step>(d + x, rest), v) : v, d + x, rest);
+    const Vec<T> v = LoadN<step>(s + x, rest);
+    StoreN(keepAlpha ? KeepAlpha(LoadN<step>(d + x, rest), v) : v, d + x, rest);
 }
 
 } // namespace pxl::PXL_TARGET

@@ -8,7 +8,7 @@
 #include <bit>
 
 #include "frame/scaling.h"
-#include "frame/vec_filter.h"
+#include "frame/vec/vec.h"
 #include "pxli.h"
 
 namespace pxl::PXL_TARGET {
@@ -63,6 +63,28 @@ private:
 };
 
 // ---- integer sums ---------------------------------------------------------------------------------------------------
+
+// Integers as doubles in two registers, and back from the lower half of every double: the lower and the upper half of
+// each block.
+struct BlockDoubles {
+    Vec<double> lower, upper;
+
+    // Below 2^52 a biased integer is a double as soon as the upper half of 2^52 stands above it.
+    PXL_INLINE explicit BlockDoubles(Vec<int32_t> v) {
+        const Vec<uint32_t> biased = BitCast<uint32_t>(v) ^ Set<uint32_t>(0x80000000);
+        const Vec<uint32_t> above = Set<uint32_t>(0x43300000);
+        const Vec<double> bias = Set<double>(0x1p52 + 0x1p31);
+        lower = BitCast<double>(InterleaveLower(biased, above)) - bias;
+        upper = BitCast<double>(InterleaveUpper(biased, above)) - bias;
+    }
+
+    // Of doubles in the range of 32s: to nearest, ties to even.
+    PXL_INLINE Vec<int32_t> nearest() const {
+        const Vec<double> unitsAtEnd = Set<double>(0x1.8p52);
+        return BitCast<int32_t>(
+            ConcatEvenBlocks(BitCast<float>(lower + unitsAtEnd), BitCast<float>(upper + unitsAtEnd)));
+    }
+};
 
 // Quotients of 32-bit integers, rounded as the exact quotient is. Their double-precision product with the reciprocal is
 // off by less than 2^-36 where it does not saturate. Multiples of 1/2 stand at least 2^-32 apart from any other

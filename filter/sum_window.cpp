@@ -1,10 +1,10 @@
 // Sums over windows of one row or one column, as running sums in single precision: a sum starts as the samples of the first
 // window, added one by one, and goes on by adding the difference of the sample that enters and the one that leaves, which is
 // taken in integers. Sums beyond 2^24 round at every step, so the order of these additions belongs to the result.
+#include "filter/squares.h"
 #include "frame/checks.h"
 #include "frame/memory.h"
-#include "frame/vec.h"
-#include "frame/vec_square.h"
+#include "frame/vec/convert.h"
 #include "pxli.h"
 
 namespace pxl::PXL_TARGET {
@@ -32,7 +32,7 @@ ptrdiff_t wholeElements(int step) {
 // What the window gains in front and loses behind.
 template <class T>
 PXL_INLINE Vec<int32_t> differences(const T* entering, const T* leaving) {
-    return LoadPromoteInt<int32_t>(entering) - LoadPromoteInt<int32_t>(leaving);
+    return LoadPromote<int32_t>(entering) - LoadPromote<int32_t>(leaving);
 }
 
 // ---- rows ----------------------------------------------------------------------------------------------------------------------

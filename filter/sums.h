@@ -36,8 +36,8 @@ struct WidenedSums {
 
     PXL_INLINE static void add(Sum& sum, Vec<Lane> v, Vec<Lane> k) {
         const Vec<float> product = v * k;
-        sum.lower = sum.lower + LowerToDouble(product);
-        sum.upper = sum.upper + UpperToDouble(product);
+        sum.lower = sum.lower + PromoteLowerToDouble(product);
+        sum.upper = sum.upper + PromoteUpperToDouble(product);
     }
     PXL_INLINE static Vec<float> value(const Sum& sum) { return ConvertToFloat(sum.lower, sum.upper); }
 };
@@ -68,11 +68,11 @@ PXL_INLINE Vec<Lane> loadLanes(const T* p) {
 // n < lanes<Lane> elements, zero behind them.
 template <class Lane, class T>
 PXL_INLINE Vec<Lane> loadFewLanes(const T* p, ptrdiff_t n) {
-    const Vec<T> few = LoadFew<lanes<Lane>>(p, n);
+    const Vec<T> few = LoadN<lanes<Lane>>(p, n);
     if constexpr (sizeof(Lane) == sizeof(T))
         return BitCast<Lane>(few);
     else
-        return PromoteFirst<Lane>(few);
+        return PromoteTo<Lane>(few);
 }
 
 // Adds one row of the kernel, walked backwards from `k`, to Units vectors of sums side by side. load(p) gives a vector.
@@ -168,13 +168,14 @@ template <int Units, class T>
 PXL_INLINE void storeResults(const Vec<int32_t> (&v)[Units], DestinationRow<T> d, ptrdiff_t x) {
     constexpr int unit = lanes<int32_t>;
     if constexpr (Units == 4 && sizeof(T) == 1) {
-        d.template store<lanes<T>>(Demote4<T>(v[0], v[1], v[2], v[3]), x);
+        d.template store<lanes<T>>(OrderedDemote4To<T>(v[0], v[1], v[2], v[3]), x);
     } else if constexpr (Units > 1 && sizeof(T) == 2) {
 #pragma GCC unroll 2
-        for (int u = 0; u < Units; u += 2) d.template store<lanes<T>>(Demote2<T>(v[u], v[u + 1]), x + u * unit);
+        for (int u = 0; u < Units; u += 2)
+            d.template store<lanes<T>>(OrderedDemote2To<T>(v[u], v[u + 1]), x + u * unit);
     } else {
 #pragma GCC unroll 2
-        for (int u = 0; u < Units; ++u) d.template store<unit>(DemoteFirst<T>(v[u]), x + u * unit);
+        for (int u = 0; u < Units; ++u) d.template store<unit>(DemoteTo<T>(v[u]), x + u * unit);
     }
 }
 
@@ -252,7 +253,7 @@ private:
         } else {
             Vec<int32_t> result[1];
             round(sum, result);
-            d.storeFew(DemoteFirst<T>(result[0]), n_);
+            d.storeFew(DemoteTo<T>(result[0]), n_);
         }
     }
 

@@ -7,8 +7,8 @@
 
 #include "frame/checks.h"
 #include "frame/parallel.h"
-#include "frame/vec.h"
-#include "frame/vec_convert.h"
+#include "frame/vec/convert.h"
+#include "frame/vec/mask.h"
 #include "pxli.h"
 
 namespace pxl::PXL_TARGET {
@@ -20,17 +20,6 @@ PXL_INLINE T* byBytes(T* p, ptrdiff_t bytes) {
 }
 
 // ---- destinations ---------------------------------------------------------------------------------------------------
-
-// All ones in the fourth element of every pixel, wherever in a pixel a vector begins.
-template <class T>
-struct AlphaLanes {
-    MaskLane<T> lane[lanes<T> + 3];
-    constexpr AlphaLanes() : lane{} {
-        for (int i = 0; i < lanes<T> + 3; ++i) lane[i] = i % 4 == 3 ? static_cast<MaskLane<T>>(~MaskLane<T>{0}) : 0;
-    }
-};
-template <class T>
-inline constexpr AlphaLanes<T> alphaLanesOf;
 
 template <class T>
 struct DestinationRow {
@@ -45,13 +34,13 @@ struct DestinationRow {
     }
     // n lanes, fewer than a register, at the start of the row.
     PXL_INLINE void storeFew(Vec<T> v, ptrdiff_t n) const {
-        if (keepsAlpha) v = withAlpha(v, LoadN(static_cast<const T*>(row), n), 0);
+        if (keepsAlpha) v = withAlpha(v, LoadN<lanes<T>>(static_cast<const T*>(row), n), 0);
         StoreN(v, row, n);
     }
 
 private:
     PXL_INLINE static Vec<T> withAlpha(Vec<T> v, Vec<T> old, ptrdiff_t x) {
-        return IfThenElse(LoadU(alphaLanesOf<T>.lane + (x & 3)), old, v);
+        return IfThenElse(AlphaMask<T>(x & 3), old, v);
     }
 };
 

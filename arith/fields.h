@@ -1,11 +1,11 @@
-// Vector pieces of division: elements as floating-point numbers in lanes of that size, and back.
+// Fields: elements as floating-point numbers in lanes of that size, and back.
 //
 // A lane of a wider type holds several elements, its fields, the lowest first: field k of a vector is elements k, k +
 // fields, k + 2 * fields and so on. Elements become numbers and return field by field, without ever leaving their
 // place.
 #pragma once
 
-#include "frame/vec.h"
+#include "frame/vec/vec.h"
 
 namespace pxl::PXL_TARGET {
 
@@ -67,7 +67,7 @@ PXL_INLINE Vec<T> JoinFields(const Vec<W> (&field)[Fields]) {
     return BitCast<T>(all);
 }
 
-// Elements of 16 bits as numbers, in the order of InterleaveLowerBlocks and InterleaveUpperBlocks.
+// Elements of 16 bits as numbers, in the order of InterleaveLower and InterleaveUpper.
 struct BlockNumbers {
     Vec<float> lower, upper;
 
@@ -77,11 +77,8 @@ struct BlockNumbers {
 
 private:
     PXL_INLINE BlockNumbers(Vec<uint16_t> low, Vec<uint16_t> high)
-        : lower(ConvertToFloat(BitCast<int32_t>(InterleaveLowerBlocks(low, high)))),
-          upper(ConvertToFloat(BitCast<int32_t>(InterleaveUpperBlocks(low, high)))) {}
+        : lower(ConvertToFloat(BitCast<int32_t>(InterleaveLower(low, high)))),
+          upper(ConvertToFloat(BitCast<int32_t>(InterleaveUpper(low, high)))) {}
 };
-
-// 1 / v with a relative error of at most 1.5 * 2^-12, which differs between processors; infinity for 0.
-PXL_INLINE Vec<float> ApproximateReciprocal(Vec<float> v) { return {PXL_VEC_OP(rcp_ps)(v.raw)}; }
 
 } // namespace pxl::PXL_TARGET

@@ -4,21 +4,9 @@
 // signed lanes bring in the sign. What the counts need is prepared once.
 #pragma once
 
-#include "frame/vec.h"
+#include "frame/vec/arithmetic.h"
 
 namespace pxl::PXL_TARGET {
-
-// Counts below the width of the lane.
-template <class T>
-PXL_INLINE Vec<T> ShiftLeftSame(Vec<T> v, int count) {
-    static_assert(sizeof(T) > 1);
-    return {v.raw << count};
-}
-template <class T>
-PXL_INLINE Vec<T> ShiftRightSame(Vec<T> v, int count) {
-    static_assert(sizeof(T) > 1);
-    return {v.raw >> count};
-}
 
 template <class T>
 inline constexpr uint32_t bitsOf = 8 * sizeof(T);
@@ -54,10 +42,6 @@ private:
         return BitCast<U>(Left ? ShiftLeftSame(pairs, count) : ShiftRightSame(pairs, count));
     }
 };
-
-PXL_INLINE Vec<uint16_t> MulHigh(Vec<uint16_t> a, Vec<uint16_t> b) {
-    return fromInts<uint16_t>(PXL_VEC_OP(mulhi_epu16)(ints(a), ints(b)));
-}
 
 // A count for every lane, zeros coming in. Lanes of 1 and 2 bytes shift by multiplying with powers of two.
 template <size_t Bytes, bool Left>
@@ -106,31 +90,10 @@ struct UnsignedLaneShift<2, Left> {
 
 template <bool Left>
 struct UnsignedLaneShift<4, Left> {
-#ifdef __AVX2__
-    Vec<uint32_t> count;
+    LaneCounts counts;
 
-    PXL_INLINE explicit UnsignedLaneShift(const uint32_t* counts) : count(LoadU(counts)) {}
-    PXL_INLINE Vec<uint32_t> operator()(Vec<uint32_t> v) const {
-        return fromInts<uint32_t>(Left ? _mm256_sllv_epi32(ints(v), ints(count))
-                                       : _mm256_srlv_epi32(ints(v), ints(count)));
-    }
-#else
-    __m128i count[4]; // of every lane, in the place where whole-register shifts look for it
-
-    PXL_INLINE explicit UnsignedLaneShift(const uint32_t* counts) {
-        for (int i = 0; i < 4; ++i) count[i] = _mm_cvtsi32_si128(static_cast<int>(counts[i] > 31 ? 32 : counts[i]));
-    }
-    PXL_INLINE Vec<uint32_t> operator()(Vec<uint32_t> v) const {
-        const auto by = [&](int i) {
-            return Left ? _mm_sll_epi32(ints(v), count[i]) : _mm_srl_epi32(ints(v), count[i]);
-        };
-        // lanes 0 and 2, and 1 and 3, of the four results
-        const __m128i even = _mm_castpd_si128(_mm_move_sd(_mm_castsi128_pd(by(2)), _mm_castsi128_pd(by(0))));
-        const __m128i odd = _mm_castpd_si128(_mm_move_sd(_mm_castsi128_pd(by(3)), _mm_castsi128_pd(by(1))));
-        const __m128i evenLanes = _mm_set_epi32(0, -1, 0, -1);
-        return fromInts<uint32_t>(_mm_or_si128(_mm_and_si128(even, evenLanes), _mm_andnot_si128(evenLanes, odd)));
-    }
-#endif
+    PXL_INLINE explicit UnsignedLaneShift(const uint32_t* n) : counts(n) {}
+    PXL_INLINE Vec<uint32_t> operator()(Vec<uint32_t> v) const { return Left ? v << counts : v >> counts; }
 };
 
 template <class T, bool Left>
