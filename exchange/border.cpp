@@ -45,10 +45,16 @@ struct Layout {
     CopyRun* copyRun;
 };
 
-// Makes so many rows: copies the source pixels and fills the margins left and right of them. The destination begins where
-// the first source pixel goes; in place they are the same.
-using MakeRows = void(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t rows, const Borders& b,
-                      const void* pattern);
+// Some rows of the source, and where the first pixel of each goes in the destination: in place they are the same. Handed on
+// in memory: the loops over rows need the registers.
+struct Rows {
+    Source src;
+    Destination dst;
+    ptrdiff_t count;
+};
+
+// Makes rows: copies the source pixels and fills the margins left and right of them.
+using MakeRows = void(const Rows& rows, const Borders& b, const void* pattern);
 
 // ---- runs of pixels -------------------------------------------------------------------------------------------------
 
@@ -111,11 +117,11 @@ PXL_INLINE void copySource(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
 // Copies the source pixels of each row and calls fill(margin, its bytes, the source pixel next to it) for both margins,
 // in a loop so that there is one copy of it.
 template <int Bytes, int Processed, class Fill>
-PXL_INLINE void makeRows(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t rows, const Borders& b, Fill&& fill) {
+PXL_INLINE void makeRows(const Rows& rows, const Borders& b, Fill&& fill) {
     const ptrdiff_t left = b.left * Bytes, width = b.width * Bytes, right = b.right() * Bytes;
-    for (ptrdiff_t y = 0; y < rows; ++y) {
-        const uint8_t* const s = src.at(0, y);
-        uint8_t* const d = dst.at(0, y);
+    for (ptrdiff_t y = 0; y < rows.count; ++y) {
+        const uint8_t* const s = rows.src.at(0, y);
+        uint8_t* const d = rows.dst.at(0, y);
         copySource<Bytes, Processed>(s, d, width);
         for (int side = 0; side < 2; ++side)
             fill(side ? d + width : d - left, side ? right : left, side ? s + width - Bytes : s);
@@ -123,30 +129,30 @@ PXL_INLINE void makeRows(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t
 }
 
 template <int Bytes, int Processed>
-void makeConstRows(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t rows, const Borders& b, const void* value) {
+void makeConstRows(const Rows& rows, const Borders& b, const void* value) {
     const Pattern<Bytes> pattern = loadPattern<Bytes>(value);
     const auto fill = [&](uint8_t * d, ptrdiff_t bytes, const uint8_t*) __attribute__((always_inline)) {
         fillRun<Bytes, Processed>(d, bytes, pattern);
     };
-    makeRows<Bytes, Processed>(src, dst, rows, b, fill);
+    makeRows<Bytes, Processed>(rows, b, fill);
 }
 
 template <int Bytes, int Processed>
-void makeReplicateRows(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t rows, const Borders& b, const void*) {
+void makeReplicateRows(const Rows& rows, const Borders& b, const void*) {
     const auto fill = [](uint8_t * d, ptrdiff_t bytes, const uint8_t* pixel) __attribute__((always_inline)) {
         fillRun<Bytes, Processed>(d, bytes, pixelPattern<Bytes, Processed>(pixel));
     };
-    makeRows<Bytes, Processed>(src, dst, rows, b, fill);
+    makeRows<Bytes, Processed>(rows, b, fill);
 }
 
 // The margins are copied in whole periods, each time twice as many, until they are full.
 template <int Bytes>
-void makeWrapRows(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t rows, const Borders& b, const void*) {
+void makeWrapRows(const Rows& rows, const Borders& b, const void*) {
     const ptrdiff_t width = b.width * Bytes;
-    for (ptrdiff_t y = 0; y < rows; ++y) {
-        uint8_t* begin = dst.at(0, y);
+    for (ptrdiff_t y = 0; y < rows.count; ++y) {
+        uint8_t* begin = rows.dst.at(0, y);
         uint8_t* end = begin + width;
-        copySource<Bytes, Bytes>(src.at(0, y), begin, width);
+        copySource<Bytes, Bytes>(rows.src.at(0, y), begin, width);
         for (ptrdiff_t rest = b.right() * Bytes, period = width, n; rest > 0; rest -= n, period *= 2, end += n) {
             n = rest < period ? rest : period;
             copyBytes(end - period, end, n);
@@ -188,11 +194,11 @@ void extendByConstant(const Source& src, const Destination& dst, const Borders& 
     Borders none = b; // of rows that are all margin
     none.left = none.width = 0;
     const auto fillRows = [&](ptrdiff_t y, ptrdiff_t end) {
-        const Image<uint8_t> rows = elementsOf(startingAt(dst, 0, y));
-        makeRows({rows.base, rows.step}, rows, end - y, none, pattern);
+        const Destination rows = startingAt(dst, 0, y);
+        makeRows({rows, rows, end - y}, none, pattern);
     };
     fillRows(0, b.top);
-    makeRows(elementsOf(src), elementsOf(startingAt(dst, b.left, b.top)), b.height, b, pattern);
+    makeRows({src, startingAt(dst, b.left, b.top), b.height}, b, pattern);
     fillRows(b.top + b.height, b.outHeight);
 }
 
@@ -216,7 +222,7 @@ void extend(const Source& src, const Destination& dst, const Borders& b, const L
     if (!allApart(src, dst, b))
         return extendPlainly(dst, b, layout.processed,
                              [&](ptrdiff_t x, ptrdiff_t y) { return src.at(map(x, b.width), map(y, b.height)); });
-    makeRows(elementsOf(src), elementsOf(startingAt(dst, b.left, b.top)), b.height, b, nullptr);
+    makeRows({src, startingAt(dst, b.left, b.top), b.height}, b, nullptr);
     copyMarginRows(dst, b, layout, map);
 }
 
@@ -226,7 +232,7 @@ void extendInPlace(const Destination& inside, const Borders& b, const Layout& la
         return extendPlainly(dst, b, layout.processed, [&](ptrdiff_t x, ptrdiff_t y) {
             return b.isInside(x, y) ? nullptr : inside.at(map(x, b.width), map(y, b.height));
         });
-    makeRows({inside.base, inside.step}, elementsOf(inside), b.height, b, nullptr);
+    makeRows({inside, inside, b.height}, b, nullptr);
     copyMarginRows(dst, b, layout, map);
 }
 

@@ -127,7 +127,13 @@ struct OrderLookup {
         keep = BitCast<T>(order > Set<uint8_t>(3));
     }
 
-    PXL_INLINE Vec<T> operator()(Vec<T> source) const { return TableLookupBytesOr0(source, control); }
+    PXL_INLINE Vec<T> operator()(Vec<T> source) const {
+        const Vec<T> shuffled = TableLookupBytesOr0(source, control);
+        if constexpr (S < D)
+            return shuffled | value;
+        else
+            return shuffled;
+    }
 };
 
 } // namespace pxl::PXL_TARGET::exchange

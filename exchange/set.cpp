@@ -99,11 +99,11 @@ void setColourRow(ptrdiff_t n, uint8_t* d, const uint8_t* m, const void* pattern
 
 using MaskedRow = void(ptrdiff_t n, uint8_t* d, const uint8_t* m, const void* pattern);
 
-// One walk for pixels of every size.
-void setMaskedRows(Image<uint8_t, anyElements> dst, ImageSize roi, Image<const uint8_t> mask, MaskedRow* row,
+// One walk for pixels of every size, which comes beside the image: so all go through registers.
+void setMaskedRows(Image<uint8_t> dst, ptrdiff_t pixelBytes, ImageSize roi, Image<const uint8_t> mask, MaskedRow* row,
                    const void* pattern) {
     const auto kernel = [=](ptrdiff_t n, uint8_t* d, const uint8_t* m) { row(n, d, m, pattern); };
-    walk(roi, kernel, dst, mask);
+    walk(roi, kernel, Image<uint8_t, anyElements>(dst.base, dst.step, pixelBytes), mask);
 }
 
 template <int E, int Processed>
@@ -112,9 +112,9 @@ PxlStatus setMaskedPixels(Values<uint8_t, Processed> value, Image<uint8_t, E, Pr
     if (const PxlStatus status = check(null(dst, value, mask), size(roi))) return status;
     const Pattern<E> pattern = pixelPattern<E>(value);
     if constexpr (E == Processed)
-        setMaskedRows(dst, roi, mask, setMaskedRow<E>, &pattern);
+        setMaskedRows(elementsOf(dst), E, roi, mask, setMaskedRow<E>, &pattern);
     else
-        setMaskedRows(dst, roi, mask, setColourRow<E>, &pattern);
+        setMaskedRows(elementsOf(dst), E, roi, mask, setColourRow<E>, &pattern);
     return PXL_OK;
 }
 

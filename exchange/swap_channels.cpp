@@ -80,17 +80,12 @@ void swap(Src src, Dst dst, ImageSize roi, const int32_t* dstOrder, typename Dst
     using T = typename Dst::Element;
     if constexpr (hasByteShuffle) {
         const OrderLookup<T, Src::elements, Dst::elements, Entries> lookup(dstOrder, value);
-        const auto swapped = [=](Vec<T> source) {
-            if constexpr (Src::elements < Dst::elements)
-                return lookup(source) | lookup.value;
-            else
-                return lookup(source);
-        };
         if constexpr (Keeps)
             walkGroups(
-                roi, [=](Vec<T> source, Vec<T> old) { return swapped(source) | (old & lookup.keep); }, src, dst);
+                roi, [=](Vec<T> source, Vec<T> old) { return lookup(source) | (old & lookup.keep); }, src, dst);
         else
-            walkGroups(roi, swapped, src, dst);
+            walkGroups(
+                roi, [=](Vec<T> source) { return lookup(source); }, src, dst);
     } else {
         Order order;
         std::memcpy(order.from, dstOrder, Entries * sizeof(int32_t));
