@@ -59,7 +59,7 @@ using MakeRows = void(const Rows& rows, const Borders& b, const void* pattern);
 // ---- runs of pixels -------------------------------------------------------------------------------------------------
 
 // Short rows in line: the call would cost as much as the copy. The last register may overlap the one before.
-PXL_INLINE void copyBytesInline(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+PXL_INLINE void copyRunInline(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     if (bytes < vecBytes) return copyFew<vecBytes>(d, s, static_cast<size_t>(bytes));
     if (bytes > 8 * vecBytes) {
         std::memcpy(d, s, static_cast<size_t>(bytes));
@@ -68,7 +68,7 @@ PXL_INLINE void copyBytesInline(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     for (ptrdiff_t o = 0; o < bytes - vecBytes; o += vecBytes) StoreU(LoadU(s + o), d + o);
     StoreU(LoadU(s + bytes - vecBytes), d + bytes - vecBytes);
 }
-void copyBytes(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) { copyBytesInline(s, d, bytes); }
+void copyRun(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) { copyRunInline(s, d, bytes); }
 
 // AC4 pixels. The last one is copied alone, since its source need not have a fourth element; those before it in vectors
 // and then in pieces, the largest first.
@@ -90,14 +90,6 @@ void copyColours(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
 }
 
 template <int Bytes, int Processed>
-PXL_INLINE Pattern<Bytes> pixelPattern(const uint8_t* pixel) {
-    if constexpr (Bytes == Processed)
-        return patternOf<Bytes>(pixel);
-    else
-        return colourPattern<Bytes>(pixel);
-}
-
-template <int Bytes, int Processed>
 PXL_INLINE void fillRun(uint8_t* d, ptrdiff_t bytes, const Pattern<Bytes>& pixel) {
     if constexpr (Bytes == Processed)
         fillPixels(d, bytes, pixel);
@@ -109,7 +101,7 @@ template <int Bytes, int Processed>
 PXL_INLINE void copySource(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     if (s == d) return;
     if constexpr (Bytes == Processed)
-        copyBytesInline(s, d, bytes);
+        copyRunInline(s, d, bytes);
     else
         copyColours<Bytes>(s, d, bytes);
 }
@@ -155,12 +147,12 @@ void makeWrapRows(const Rows& rows, const Borders& b, const void*) {
         copySource<Bytes, Bytes>(rows.src.at(0, y), begin, width);
         for (ptrdiff_t rest = b.right() * Bytes, period = width, n; rest > 0; rest -= n, period *= 2, end += n) {
             n = rest < period ? rest : period;
-            copyBytes(end - period, end, n);
+            copyRun(end - period, end, n);
         }
         for (ptrdiff_t rest = b.left * Bytes, period = width, n; rest > 0; rest -= n, period *= 2) {
             n = rest < period ? rest : period;
             begin -= n;
-            copyBytes(begin + period, begin, n);
+            copyRun(begin + period, begin, n);
         }
     }
 }
@@ -241,7 +233,7 @@ void extendInPlace(const Destination& inside, const Borders& b, const Layout& la
 template <int Bytes, int Processed>
 Layout layoutOf(Image<uint8_t, Bytes, Processed>) {
     if constexpr (Bytes == Processed)
-        return {Processed, copyBytes};
+        return {Processed, copyRun};
     else
         return {Processed, copyColours<Bytes>};
 }

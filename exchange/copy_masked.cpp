@@ -11,12 +11,12 @@ namespace pxl::PXL_TARGET::exchange {
 namespace {
 
 template <int E>
-void copyRow(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m) {
+void copyMaskedRow(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m) {
     blendRow<E>(n, m, d, RowSource{s});
 }
 
 template <int E>
-void copyColourRow(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m) {
+void copyMaskedColours(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m) {
     const ptrdiff_t last = (n - 1) * E;
     blendRow<E>(n - 1, m, d, RowSource{s}, alphaPattern<E>());
     const Block keep = widenMask<E>(ZeroBytes(LoadBlock<1>(m + n - 1)));
@@ -39,9 +39,9 @@ PxlStatus copyMasked(Image<const T, Elements, Channels> src, Image<T, Elements, 
                      Image<const uint8_t> mask) {
     constexpr int E = Elements * sizeof(T);
     if constexpr (Channels == Elements)
-        return copyPixels(bytesOf(src), bytesOf(dst), roi, mask, copyRow<E>);
+        return copyPixels(bytesOf(src), bytesOf(dst), roi, mask, copyMaskedRow<E>);
     else
-        return copyPixels(bytesOf(src), bytesOf(dst), roi, mask, copyColourRow<E>);
+        return copyPixels(bytesOf(src), bytesOf(dst), roi, mask, copyMaskedColours<E>);
 }
 
 } // namespace

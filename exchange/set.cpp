@@ -31,7 +31,7 @@ void streamPixels(uint8_t* d, ptrdiff_t bytes, const Pattern<E>& pattern) {
 
 // Long runs of bytes are left to memset, which knows more ways to fill than there are here; below it is as fast.
 template <int E>
-PXL_INLINE void fillRun(uint8_t* d, ptrdiff_t bytes, const Pattern<E>& pattern) {
+PXL_INLINE void fillRow(uint8_t* d, ptrdiff_t bytes, const Pattern<E>& pattern) {
     constexpr ptrdiff_t longRun = E == 1 ? 4096 : streamedBytes;
     if (bytes < longRun)
         fillPixels(d, bytes, pattern);
@@ -41,22 +41,13 @@ PXL_INLINE void fillRun(uint8_t* d, ptrdiff_t bytes, const Pattern<E>& pattern) 
         streamPixels(d, bytes, pattern);
 }
 
-// Of all E bytes of a pixel, or of all but the fourth element.
-template <int E, int Processed>
-PXL_INLINE Pattern<E> pixelPattern(Values<uint8_t, Processed> value) {
-    if constexpr (E == Processed)
-        return patternOf<E>(value.base);
-    else
-        return colourPattern<E>(value.base);
-}
-
 template <int E, int Processed>
 PxlStatus setPixels(Values<uint8_t, Processed> value, Image<uint8_t, E, Processed> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(dst, value), size(roi))) return status;
-    const Pattern<E> pattern = pixelPattern<E>(value);
+    const Pattern<E> pattern = pixelPattern<E, Processed>(value.base);
     const auto row = [&](ptrdiff_t n, uint8_t* d) {
         if constexpr (E == Processed)
-            fillRun(d, n * E, pattern);
+            fillRow(d, n * E, pattern);
         else
             fillPixels(d, n * E, pattern, alphaPattern<E>());
     };
@@ -110,7 +101,7 @@ template <int E, int Processed>
 PxlStatus setMaskedPixels(Values<uint8_t, Processed> value, Image<uint8_t, E, Processed> dst, ImageSize roi,
                           Image<const uint8_t> mask) {
     if (const PxlStatus status = check(null(dst, value, mask), size(roi))) return status;
-    const Pattern<E> pattern = pixelPattern<E>(value);
+    const Pattern<E> pattern = pixelPattern<E, Processed>(value.base);
     if constexpr (E == Processed)
         setMaskedRows(elementsOf(dst), E, roi, mask, setMaskedRow<E>, &pattern);
     else
