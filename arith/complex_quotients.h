@@ -6,6 +6,7 @@
 
 #include "arith/div_rows.h"
 #include "arith/fields.h"
+#include "frame/ranges.h"
 
 namespace pxl::PXL_TARGET {
 
@@ -32,7 +33,7 @@ struct ComplexFloatQuotient {
 // rounds to a double, and what is left to do then is rounding to nearest. Parts outside the range saturate.
 template <class L>
 struct RoundPart {
-    static constexpr L largest = sizeof(L) == 2 ? INT16_MAX : INT32_MAX;
+    static constexpr L largest = highestOf<L>;
 
     // What the part is more than the smallest number, in the lower bits.
     static PXL_INLINE Vec<uint64_t> above(Vec<double> q) {

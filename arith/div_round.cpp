@@ -6,6 +6,7 @@
 // matter. (The quotient y / (x * 2^n) is 1 / (2y) of it away, y * 2^n / x at least 1 / (2x), with a quotient up to 256
 // and x up to 255 for 8u.)
 #include "arith/quotients.h"
+#include "frame/ranges.h"
 
 namespace pxl::PXL_TARGET {
 namespace {
@@ -51,10 +52,8 @@ template <class T, int Mode>
 struct RoundBy {
     template <class Real>
     PXL_INLINE auto operator()(Vec<Real> q) const {
-        constexpr int smallest = std::is_signed_v<T> ? -32768 : 0;
-        constexpr int largest = sizeof(T) == 1 ? 255 : std::is_signed_v<T> ? 32767 : 65535;
-        Vec<Real> limited = AtMost(largest, q);
-        if constexpr (smallest < 0) limited = AtLeast(smallest, limited);
+        Vec<Real> limited = AtMost(highestOf<T>, q);
+        if constexpr (std::is_signed_v<T>) limited = AtLeast(lowestOf<T>, limited);
         return roundTo<T>(std::integral_constant<int, Mode>{}, limited);
     }
 };

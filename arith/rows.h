@@ -32,13 +32,6 @@ inline void walkConstant(const T* src, int srcStep, const T* values, T* dst, int
     run<LaneOf<T>>(constantRegionOf<Elements, Channels>(src, srcStep, values, dst, dstStep, roi, row), op);
 }
 
-// Lanes of the fourth element of every four: all ones. What AC4 rows keep of the destination.
-template <class T>
-PXL_INLINE Mask<LaneOf<T>> alphaLanes() {
-    static_assert(4 * sizeof(T) <= vecBytes);
-    return LoadU(reinterpret_cast<const MaskLane<LaneOf<T>>*>(alphaBytes<sizeof(T)>.bytes));
-}
-
 // d[i] = op(s[i], c[i % period]); what stands in the constants of a vector is between the caller and the operation.
 template <int Count, class L, class C, class Op>
 PXL_INLINE void constantRow(ptrdiff_t n, const L* s, L* d, const C (&constants)[Count], const Op& op) {
@@ -59,7 +52,8 @@ PXL_INLINE void constantRow(ptrdiff_t n, const L* s, L* d, const C (&constants)[
 template <class T, class C, class Op>
 PXL_INLINE void constantColourRow(ptrdiff_t n, const LaneOf<T>* s, LaneOf<T>* d, const C& constants, const Op& op) {
     using L = LaneOf<T>;
-    const auto keep = alphaLanes<T>();
+    static_assert(4 * sizeof(T) <= vecBytes);
+    const auto keep = BitCast<MaskLane<L>>(AlphaMask<T>());
     const auto block = [&](L* to, const L* p, const L* old) {
         StoreU(IfThenElse(keep, LoadU(old), op(LoadU(p), constants)), to);
     };

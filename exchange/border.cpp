@@ -58,17 +58,7 @@ using MakeRows = void(const Rows& rows, const Borders& b, const void* pattern);
 
 // ---- runs of pixels -------------------------------------------------------------------------------------------------
 
-// Short rows in line: the call would cost as much as the copy. The last register may overlap the one before.
-PXL_INLINE void copyRunInline(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
-    if (bytes < vecBytes) return copyFew<vecBytes>(d, s, static_cast<size_t>(bytes));
-    if (bytes > 8 * vecBytes) {
-        std::memcpy(d, s, static_cast<size_t>(bytes));
-        return;
-    }
-    for (ptrdiff_t o = 0; o < bytes - vecBytes; o += vecBytes) StoreU(LoadU(s + o), d + o);
-    StoreU(LoadU(s + bytes - vecBytes), d + bytes - vecBytes);
-}
-void copyRun(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) { copyRunInline(s, d, bytes); }
+void copyRun(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) { copyRow(s, d, bytes); }
 
 // AC4 pixels. The last one is copied alone, since its source need not have a fourth element; those before it in vectors
 // and then in pieces, the largest first.
@@ -101,7 +91,7 @@ template <int Bytes, int Processed>
 PXL_INLINE void copySource(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     if (s == d) return;
     if constexpr (Bytes == Processed)
-        copyRunInline(s, d, bytes);
+        copyRow(s, d, bytes);
     else
         copyColours<Bytes>(s, d, bytes);
 }
@@ -202,11 +192,11 @@ ptrdiff_t periodic(ptrdiff_t x, ptrdiff_t size) { return x % size + (x % size < 
 
 // The rows above and below the source, copied from the others.
 void copyMarginRows(const Destination& dst, const Borders& b, const Layout& layout, Map* map) {
-    const auto copyRow = [&](ptrdiff_t y) {
+    const auto copyMargin = [&](ptrdiff_t y) {
         layout.copyRun(dst.at(0, b.top + map(y - b.top, b.height)), dst.at(0, y), b.outWidth * dst.pixelBytes);
     };
-    for (ptrdiff_t y = 0; y < b.top; ++y) copyRow(y);
-    for (ptrdiff_t y = b.top + b.height; y < b.outHeight; ++y) copyRow(y);
+    for (ptrdiff_t y = 0; y < b.top; ++y) copyMargin(y);
+    for (ptrdiff_t y = b.top + b.height; y < b.outHeight; ++y) copyMargin(y);
 }
 
 void extend(const Source& src, const Destination& dst, const Borders& b, const Layout& layout, MakeRows* makeRows,

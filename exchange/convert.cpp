@@ -7,10 +7,9 @@
 // and NaN gives 0. The lower bound needs no operation of its own: what lies below the range of 32s converts to its
 // minimum, and narrowing saturates. That minimum is what NaN converts to as well, which is the wanted 0 for unsigned
 // destinations.
-#include <limits>
-
 #include "exchange/conversion.h"
 #include "exchange/rounding.h"
+#include "frame/ranges.h"
 
 namespace pxl::PXL_TARGET {
 namespace {
@@ -33,16 +32,13 @@ struct KeepValue {
 };
 
 template <class D>
-inline constexpr float maximumOf = std::numeric_limits<D>::max();
-
-template <class D>
 struct RoundToNearest {
     using Source = float;
     using Result = D;
     using Lane = int32_t;
 
     PXL_INLINE Vec<int32_t> operator()(Vec<float> v) const {
-        const Vec<float> maximum = Set<float>(maximumOf<D>);
+        const Vec<float> maximum = Set<float>(highestOf<D>);
         if constexpr (std::is_unsigned_v<D>) return NearestInt(Min(maximum, tiesToEven(v)));
         return NearestInt(Min(maximum, IfThenElseZero(roundsAwayFrom0(v), v)));
     }
@@ -58,7 +54,7 @@ struct Truncate {
     float bias;
 
     PXL_INLINE Vec<int32_t> operator()(Vec<float> v) const {
-        const Vec<float> bounded = Min(Set<float>(maximumOf<D>), v);
+        const Vec<float> bounded = Min(Set<float>(highestOf<D>), v);
         if constexpr (std::is_unsigned_v<D>) return TruncateToInt(bounded + Set<float>(bias));
         const Vec<float> signedBias = (v & Set<float>(-0.0f)) | Set<float>(bias);
         return TruncateToInt(IfThenElseZero(v == v, bounded + signedBias));

@@ -9,24 +9,13 @@
 namespace pxl::PXL_TARGET::exchange {
 namespace {
 
-// Short rows are copied in line: the call would cost as much as the copy.
-PXL_INLINE void copyBytes(uint8_t* d, const uint8_t* s, ptrdiff_t n) {
-    if (n < 32) return copyFew<32>(d, s, static_cast<size_t>(n));
-    if (n > 64) return static_cast<void>(std::memmove(d, s, static_cast<size_t>(n)));
-    // Both ends of the row, as two runs of 32 bytes that may overlap.
-    const Vec<uint8_t> ends[] = {LoadU(s), LoadU(s + 32 - vecBytes), LoadU(s + n - 32), LoadU(s + n - vecBytes)};
-    StoreU(ends[0], d);
-    StoreU(ends[1], d + 32 - vecBytes);
-    StoreU(ends[2], d + n - 32);
-    StoreU(ends[3], d + n - vecBytes);
-}
-
-void streamBytes(uint8_t* d, const uint8_t* s, ptrdiff_t n) {
+void streamRow(const uint8_t* s, uint8_t* d, ptrdiff_t n) {
     ptrdiff_t x = 0;
-    for (; x + 128 <= n; x += 128)
+    constexpr int run = 2 * lineBytes;
+    for (; x + run <= n; x += run)
 #pragma GCC unroll 8
-        for (int i = 0; i < 128; i += vecBytes) Streamed::store(LoadU(s + x + i), d + x + i);
-    copyBytes(d + x, s + x, n - x);
+        for (int i = 0; i < run; i += vecBytes) Streamed::store(LoadU(s + x + i), d + x + i);
+    copyRow(s + x, d + x, n - x);
 }
 
 template <class T, int Elements>
@@ -34,15 +23,15 @@ PxlStatus copy(Image<const T, Elements> src, Image<T, Elements> dst, ImageSize r
     if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
     const auto s = bytesOf(elementsOf(src));
     const auto d = bytesOf(elementsOf(dst));
-    const auto walkBytes = [&](auto copyRow) {
-        const auto row = [=](ptrdiff_t n, const uint8_t* from, uint8_t* to) { copyRow(to, from, n * s.pixelBytes); };
+    const auto walkBytes = [&](auto moveRow) {
+        const auto row = [=](ptrdiff_t n, const uint8_t* from, uint8_t* to) { moveRow(from, to, n * s.pixelBytes); };
         walkElements(roi, Elements, row, s, d);
     };
     const bool streamed = src.base != dst.base && isStreamed(ptrdiff_t{roi.width} * Elements, roi.height, s, d);
     if (streamed)
-        walkBytes(streamBytes);
+        walkBytes(streamRow);
     else
-        walkBytes([](auto... row) { copyBytes(row...); });
+        walkBytes([](auto... row) { copyRow(row...); });
     finishStreamed(streamed);
     return PXL_OK;
 }

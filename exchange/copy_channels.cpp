@@ -125,8 +125,7 @@ constexpr int fetchedParts = 8;
 template <int P, class T, int Count>
 PXL_INLINE void splitPart(const T* s, T* const (&d)[Count], ptrdiff_t x) {
     Vec<T> v[Count];
-    loadPixels<P>(s + x * Count, v);
-    deinterleave(v);
+    LoadInterleaved<P>(s + x * Count, v);
 #pragma GCC unroll 4
     for (int p = 0; p < Count; ++p) StoreFirst<P>(v[p], d[p] + x);
 }
@@ -138,10 +137,7 @@ PXL_INLINE void streamSplitLines(const T* s, T* const (&d)[Count], ptrdiff_t x) 
     constexpr int parts = lineBytes / vecBytes;
     Vec<T> v[parts][Count];
 #pragma GCC unroll 4
-    for (int i = 0; i < parts; ++i) {
-        loadPixels<most>(s + (x + i * most) * Count, v[i]);
-        deinterleave(v[i]);
-    }
+    for (int i = 0; i < parts; ++i) LoadInterleaved<most>(s + (x + i * most) * Count, v[i]);
 #pragma GCC unroll 4
     for (int p = 0; p < Count; ++p)
 #pragma GCC unroll 4
@@ -184,8 +180,7 @@ PXL_INLINE void mergePart(const T* const (&s)[Count], T* d, ptrdiff_t x) {
     Vec<T> v[Count];
 #pragma GCC unroll 4
     for (int p = 0; p < Count; ++p) v[p] = LoadFirst<P>(s[p] + x);
-    interleave(v);
-    storePixels<P, Stores>(v, d + x * Count);
+    StoreInterleaved<P, Stores>(v, d + x * Count);
 }
 
 template <class T, int Count>

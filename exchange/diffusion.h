@@ -39,6 +39,7 @@ inline void ditherRow(ptrdiff_t width, const uint8_t* s, int32_t level, int32_t*
 }
 
 inline constexpr int bandRows = lanes<int32_t>;
+static_assert(bandRows <= 8);       // the bits of a step fill a byte
 inline constexpr ptrdiff_t lag = 3; // 2 would do, but makes every step wait for the rows above
 inline constexpr ptrdiff_t lastLag = lag * (bandRows - 1);
 inline constexpr int stepsAtOnce = 16;

@@ -55,19 +55,6 @@ PXL_INLINE void byEnds(uint8_t* d, ptrdiff_t bytes, Make&& make) {
 
 // ---- rows as they are -----------------------------------------------------------------------------------------------
 
-PXL_INLINE void copyShortRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
-    if (bytes < vecBytes)
-        copyFew<vecBytes>(d, s, static_cast<size_t>(bytes));
-    else
-        byRegisters(d, bytes, [=](ptrdiff_t x) { return LoadU(s + x); });
-}
-PXL_INLINE void copyRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
-    if (bytes <= 4096)
-        copyShortRow(s, d, bytes);
-    else
-        std::memcpy(d, s, static_cast<size_t>(bytes));
-}
-
 // The last pixel is moved by itself.
 template <int Bytes, int Moved>
 PXL_INLINE void copyRowKeepingAlpha(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
@@ -185,7 +172,7 @@ void exchangeRows(uint8_t* a, uint8_t* b, ptrdiff_t bytes, MoveRows* move, bool 
     for (ptrdiff_t n; bytes > 0; bytes -= n, a += n) {
         n = bytes < chunk ? bytes : chunk;
         uint8_t* other = reversed ? b + bytes - n : b;
-        copyShortRow(a, held, n);
+        copyRow(a, held, n);
         move({other, 0}, {a, 0}, n, 1);
         move({held, 0}, {other, 0}, n, 1);
         if (!reversed) b += n;

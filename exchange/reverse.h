@@ -66,46 +66,62 @@ PXL_INLINE void storeReversed16(const uint8_t* s, uint8_t* d) {
     storeWord(TableLookupBytesOr0(loadWord<Block>(s), loadWord<Block>(reversal16<Bytes>.from)), d);
 }
 
-// How a run of 96 bytes is made of pixels of 3, 6 or 12 bytes in reverse order, 16 bytes at a time. The sources of 16
-// bytes lie in a window that is little wider than 16: two loads, one from its beginning and one to its end, hold them
-// all.
-template <int Bytes>
+// How a run of 96 bytes is made of pixels of 3, 6 or 12 bytes in reverse order, Unit bytes at a time. Their sources lie
+// in a window that is little wider than Unit: two loads, one from its beginning and one to its end, hold them all.
+template <int Bytes, int Unit>
 struct Reversal96 {
-    int first[6], last[6]; // where the loads begin
-    alignas(32) uint8_t fromFirst[96], fromLast[96];
+    static constexpr int units = 96 / Unit;
+    static_assert(96 % Unit == 0);
+    int first[units], last[units]; // where the loads begin
+    // The places of the bytes in the first load, and 0x80 where they are not in it; the other way round for the last.
+    alignas(vecBytes) uint8_t fromFirst[96], fromLast[96];
+    alignas(vecBytes) uint8_t fromBoth[96]; // in the first load followed by the last
 
     static constexpr int source(int at) { return 96 - Bytes - at / Bytes * Bytes + at % Bytes; }
 
-    constexpr Reversal96() : first(), last(), fromFirst(), fromLast() {
-        for (int block = 0; block < 6; ++block) {
+    constexpr Reversal96() : first(), last(), fromFirst(), fromLast(), fromBoth() {
+        for (int unit = 0; unit < units; ++unit) {
             int low = 96, high = 0;
-            for (int at = 16 * block; at < 16 * block + 16; ++at) {
+            for (int at = Unit * unit; at < Unit * unit + Unit; ++at) {
                 low = source(at) < low ? source(at) : low;
                 high = source(at) > high ? source(at) : high;
             }
-            first[block] = low;
-            last[block] = high - 15;
-            for (int at = 16 * block; at < 16 * block + 16; ++at) {
-                const int offset = source(at) - low;
-                fromFirst[at] = static_cast<uint8_t>(offset < 16 ? offset : 0x80);
-                fromLast[at] = static_cast<uint8_t>(offset < 16 ? 0x80 : source(at) - last[block]);
+            first[unit] = low;
+            last[unit] = high - (Unit - 1);
+            for (int at = Unit * unit; at < Unit * unit + Unit; ++at) {
+                const int inFirst = source(at) - low, inLast = source(at) - last[unit];
+                fromFirst[at] = static_cast<uint8_t>(inFirst < Unit ? inFirst : 0x80);
+                fromLast[at] = static_cast<uint8_t>(inFirst < Unit ? 0x80 : inLast);
+                fromBoth[at] = static_cast<uint8_t>(inFirst < Unit ? inFirst : Unit + inLast);
             }
         }
     }
 };
+template <int Bytes, int Unit>
+inline constexpr Reversal96<Bytes, Unit> reversal96;
 
+// Bytes At and up of the run, a vector of them.
+template <int Bytes, int At>
+PXL_INLINE Vec<uint8_t> reversedVector(const uint8_t* s) {
+    if constexpr (hasBytePermute) {
+        constexpr auto& plan = reversal96<Bytes, vecBytes>;
+        constexpr int unit = At / vecBytes;
+        const Vec<uint8_t> first = LoadU(s + plan.first[unit]), last = LoadU(s + plan.last[unit]);
+        return TwoTablesLookupLanes(first, last, LoadU(plan.fromBoth + At));
+    } else {
+        constexpr auto& plan = reversal96<Bytes, blockBytes>;
+        const auto pick = [&](const int* begin, const uint8_t* from) __attribute__((always_inline)) {
+            const auto block = [&](int k) { return loadWord<Block>(s + begin[At / blockBytes + k]); };
+            return TableLookupBytesOr0(FromBlocks<uint8_t>(block), LoadU(from + At));
+        };
+        return pick(plan.first, plan.fromFirst) | pick(plan.last, plan.fromLast);
+    }
+}
 template <int Bytes>
 PXL_INLINE void storeReversed96(const uint8_t* s, uint8_t* d) {
-    static_assert(96 % vecBytes == 0);
-    static constexpr Reversal96<Bytes> plan;
-#pragma GCC unroll 6
-    for (int at = 0; at < 96; at += vecBytes) {
-        const auto pick = [&](const int* begin, const uint8_t* from) __attribute__((always_inline)) {
-            const auto block = [&](int k) { return loadWord<Block>(s + begin[at / blockBytes + k]); };
-            return TableLookupBytesOr0(FromBlocks<uint8_t>(block), LoadU(from + at));
-        };
-        StoreU(pick(plan.first, plan.fromFirst) | pick(plan.last, plan.fromLast), d + at);
-    }
+    unrolled<96 / vecBytes>([&](auto j) __attribute__((always_inline)) {
+        StoreU(reversedVector<Bytes, j * vecBytes>(s), d + j * vecBytes);
+    });
 }
 
 } // namespace pxl::PXL_TARGET::exchange

@@ -60,6 +60,17 @@ PxlStatus set(Values<T, Channels> value, Image<T, Elements, Channels> dst, Image
     return setPixels(bytesOf(value), bytesOf(dst), roi);
 }
 
+// All ones behind the first First bytes of every pixel.
+template <int E, int First>
+struct BytesBehind {
+    alignas(vecBytes) uint8_t bytes[Pattern<E>::count * vecBytes];
+    constexpr BytesBehind() : bytes{} {
+        for (int k = 0; k < Pattern<E>::count * vecBytes; ++k) bytes[k] = k % E >= First ? 0xFF : 0;
+    }
+};
+template <int E, int First>
+inline constexpr BytesBehind<E, First> bytesBehind;
+
 // The pointer stands at the chosen channel, so the last pixel of a row may end right behind it.
 template <class T, int Elements>
 PxlStatus setChannel(Values<T, 1> value, Image<T, Elements, 1> dst, ImageSize roi) {
@@ -69,7 +80,7 @@ PxlStatus setChannel(Values<T, 1> value, Image<T, Elements, 1> dst, ImageSize ro
     const Pattern<E> channel = patternOf<E>(pixel);
     const auto row = [&](ptrdiff_t n, uint8_t* d) {
         const ptrdiff_t before = (n - 1) * E;
-        fillPixels(d, before, channel, maskPattern<E, sizeof(T), E>());
+        fillPixels(d, before, channel, loadPattern<E>(bytesBehind<E, sizeof(T)>.bytes));
         store1(reinterpret_cast<T*>(d + before), pixel[0]);
     };
     walk(roi, row, bytesOf(dst));

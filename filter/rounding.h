@@ -7,16 +7,12 @@
 
 #include <bit>
 
+#include "frame/ranges.h"
 #include "frame/scaling.h"
 #include "frame/vec/vec.h"
 #include "pxli.h"
 
 namespace pxl::PXL_TARGET {
-
-template <class T>
-inline constexpr int largestOf = std::is_signed_v<T> ? (1 << (8 * sizeof(T) - 1)) - 1 : (1 << 8 * sizeof(T)) - 1;
-template <class T>
-inline constexpr int smallestOf = std::is_signed_v<T> ? -largestOf<T> - 1 : 0;
 
 // ---- floats ---------------------------------------------------------------------------------------------------------
 
@@ -55,8 +51,8 @@ private:
 
     // Max gives its second operand for NaN, which is 0 for unsigned types.
     PXL_INLINE static Vec<float> saturated(Vec<float> v) {
-        if constexpr (smallestOf<T> < 0) v = IfThenElseZero(v == v, v);
-        return Min(Max(v, Set<float>(smallestOf<T>)), Set<float>(largestOf<T>));
+        if constexpr (lowestOf<T> < 0) v = IfThenElseZero(v == v, v);
+        return Min(Max(v, Set<float>(lowestOf<T>)), Set<float>(highestOf<T>));
     }
 
     int mode_;

@@ -262,6 +262,58 @@ PXL_INLINE void deinterleave(Vec<T> (&v)[4]) {
     }
 }
 
+// ---- whole pixels from and to memory ------------------------------------------------------------------------------
+
+// Bytes of three channels by permutes of two vectors: two for each vector of the result. Vectors are as they lie in
+// memory. Byte i of a channel is byte 3 i + Channel of the pixels; what lies in the third vector comes second.
+template <int Channel>
+PXL_INLINE Vec<uint8_t> permutedChannel(Vec<uint8_t> a, Vec<uint8_t> b, Vec<uint8_t> c) {
+    constexpr auto firstTwo = [](int i) { return (3 * i + Channel) % (2 * vecBytes); };
+    constexpr auto withThird = [](int i) {
+        const int from = 3 * i + Channel;
+        return from < 2 * vecBytes ? i : from - vecBytes;
+    };
+    const Vec<uint8_t> part = TwoTablesLookupLanes(a, b, fromLanes<uint8_t, firstTwo>());
+    return TwoTablesLookupLanes(part, c, fromLanes<uint8_t, withThird>());
+}
+template <int Index>
+PXL_INLINE Vec<uint8_t> permutedPixels(const Vec<uint8_t> (&v)[3]) {
+    constexpr auto firstTwo = [](int i) {
+        const int at = Index * vecBytes + i;
+        return at % 3 == 1 ? vecBytes + at / 3 : at / 3;
+    };
+    constexpr auto withThird = [](int i) {
+        const int at = Index * vecBytes + i;
+        return at % 3 == 2 ? vecBytes + at / 3 : i;
+    };
+    const Vec<uint8_t> part = TwoTablesLookupLanes(v[0], v[1], fromLanes<uint8_t, firstTwo>());
+    return TwoTablesLookupLanes(part, v[2], fromLanes<uint8_t, withThird>());
+}
+template <int Pixels, int N, class T>
+inline constexpr bool permutesPixels = hasBytePermute&& N == 3 && sizeof(T) == 1 && Pixels == lanes<T>;
+
+// Pixels from memory to channels, and channels to pixels in memory.
+template <int Pixels, int N, class T>
+PXL_INLINE void LoadInterleaved(const T* p, Vec<T> (&v)[N]) {
+    if constexpr (permutesPixels<Pixels, N, T>) {
+        const Vec<T> a = LoadU(p), b = LoadU(p + vecBytes), c = LoadU(p + 2 * vecBytes);
+        unrolled<N>([&](auto k) __attribute__((always_inline)) { v[k] = permutedChannel<k>(a, b, c); });
+    } else {
+        loadPixels<Pixels>(p, v);
+        deinterleave(v);
+    }
+}
+template <int Pixels, class Stores = Cached, int N, class T>
+PXL_INLINE void StoreInterleaved(Vec<T> (&v)[N], T* p) {
+    if constexpr (permutesPixels<Pixels, N, T>) {
+        unrolled<N>([&](auto j)
+                        __attribute__((always_inline)) { Stores::store(permutedPixels<j>(v), p + j * vecBytes); });
+    } else {
+        interleave(v);
+        storePixels<Pixels, Stores>(v, p);
+    }
+}
+
 // ---- one channel ----------------------------------------------------------------------------------------------------
 
 // One channel of N vectors of pixels.

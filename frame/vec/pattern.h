@@ -94,22 +94,6 @@ PXL_INLINE Pattern<E> patternOf(const void* pixel) {
     return repeatPixel<E>(LoadBlock<E>(pixel));
 }
 
-// All ones in bytes From .. To - 1 of every pixel and zeros elsewhere.
-template <int E, int From, int To>
-struct BytesOfPixel {
-    alignas(vecBytes) uint8_t bytes[Pattern<E>::count * vecBytes];
-    constexpr BytesOfPixel() : bytes{} {
-        for (int k = 0; k < Pattern<E>::count * vecBytes; ++k) bytes[k] = k % E >= From && k % E < To ? 0xFF : 0;
-    }
-};
-template <int E, int From, int To>
-inline constexpr BytesOfPixel<E, From, To> bytesOfPixel;
-
-template <int E, int From, int To>
-PXL_INLINE Pattern<E> maskPattern() {
-    return loadPattern<E>(bytesOfPixel<E, From, To>.bytes);
-}
-
 // ---- AC4: pixels of which the fourth element is not processed -------------------------------------------------------
 
 // Bytes of the three processed elements.

@@ -20,6 +20,13 @@ PXL_INLINE Vec<T> ShuffleBlocks(Vec<T> v) {
     return Shuffle2<[](int i) { return i / perBlock * perBlock + From(i % perBlock); }>(v, v);
 }
 
+// An ability: TwoTablesLookupLanes of bytes, which crosses blocks and takes its bytes from two vectors.
+template <class V>
+concept HasTwoTables = requires(V v) {
+    TwoTablesLookupLanes(v, v, v);
+};
+inline constexpr bool hasBytePermute = HasTwoTables<Vec<uint8_t>>;
+
 // Pixels of Bytes bytes, whatever the lanes are.
 template <int Bytes, class T>
 PXL_INLINE Vec<T> InterleaveLower(Vec<T> a, Vec<T> b) {
