@@ -106,21 +106,12 @@ def passed_arguments(member):
     return ", ".join(arguments)
 
 
-def loose_argument(param, member):
-    if not param.element or param.role in ("Mask", "Order", "Table", "Result"):
-        return param.name
-    if param.role == "Element":
-        return f"std::bit_cast<{lane_type(param, member)}>({param.name})" if member.bits else param.name
-    return as_lanes(param, member, param.name)
-
-
 def members_text(source, members):
     """The bottom of a family's source file: one plain function per member, in the namespace of its room."""
     lines = [f"// The members of {source}, generated from the registry.", "#include <bit>", "",
              f"namespace pxl::PXL_TARGET::{members[0].room} {{"]
     for m in members:
-        args = ", ".join(loose_argument(p, m) for p in m.passed) if m.loose else passed_arguments(m)
-        lines.append(f"{m.c_prototype} {{ return {m.call}({args}); }}")
+        lines.append(f"{m.c_prototype} {{ return {m.call}({passed_arguments(m)}); }}")
     return "\n".join(lines + [f"}} // namespace pxl::PXL_TARGET::{members[0].room}", ""])
 
 

@@ -6,7 +6,6 @@ import tomllib
 from dataclasses import dataclass, field
 from pathlib import Path
 
-import loose
 import vocabulary as v
 
 API = Path(__file__).parent
@@ -53,7 +52,6 @@ class Member:
     room: str = ""               # the folder of its source, and the namespace of its template
     targets: tuple = ()          # the names of the targets that it is compiled for
     facts: Facts = field(default_factory=Facts)
-    loose: bool = False          # its template takes pointers and steps one by one
     prototype: str = ""      # set for members that follow no pattern; they are the same on every target
 
     @property
@@ -150,9 +148,7 @@ def member_of(entry, form, types, code):
     member.facts = Facts(**(entry.get("facts", {}) | form.get("facts", {})))
     member.room = entry["file"].partition("/")[0]
     member.targets = tuple(t.name for t in targets() if not t.optional or t.name in form.get("targets", ()))
-    loose_call = loose.CALLS.get(entry["file"], {}).get(form["call"])
-    member.loose = loose_call is not None
-    member.call = (loose_call or form["call"]).format(**names)
+    member.call = form["call"].format(**names)
     member.params, member.passed = _parameters(member, form["args"])
     return member
 
@@ -182,9 +178,4 @@ def _parameters(member, words):
 
 def _placeholders(member):
     """What a form's `call` and `prototype` may name in braces."""
-    def ctype(code):
-        return v.BITS_TYPES[v.SIZES[code]] if member.bits else v.C_TYPES.get(code, "")
-    return {"name": member.name, "S": ctype(member.src), "D": ctype(member.dst),
-            "elements": member.dst_side.elements, "channels": member.dst_side.channels,
-            "srcElements": member.src_side.elements, "planes": member.dst_side.planes,
-            "inPlace": "true" if "I" in member.mode else "false"}
+    return {"name": member.name, "D": v.C_TYPES.get(member.dst, ""), "elements": member.dst_side.elements}

@@ -4,7 +4,7 @@
 #include "frame/vec/partial.h"
 #include "frame/vec/shuffle.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 
 // 64 bits from `bit` (0..7) on, the first one the most significant. Reads the bytes that hold them.
 PXL_INLINE uint64_t load64Bits(const uint8_t* p, int bit) {
@@ -65,4 +65,4 @@ PXL_INLINE void TransposeBits(uint64_t lower, uint64_t upper, Store&& store) {
     }
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange

@@ -6,7 +6,7 @@
 #include "frame/walk.h"
 #include "pxli.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 namespace {
 
 void streamRow(const uint8_t* s, uint8_t* d, ptrdiff_t n) {
@@ -18,20 +18,16 @@ void streamRow(const uint8_t* s, uint8_t* d, ptrdiff_t n) {
     copyRow(s + x, d + x, n - x);
 }
 
-template <class T, int Channels>
-PxlStatus CopyElements(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
-    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    const auto s = operand(src, srcStep);
-    const auto d = operand(dst, dstStep);
-    const auto walkBytes = [&](auto copy) {
-        const auto row = [=](ptrdiff_t n, const T* from, T* to) {
-            const auto* sourceBytes = reinterpret_cast<const uint8_t*>(from);
-            copy(sourceBytes, reinterpret_cast<uint8_t*>(to), n * static_cast<ptrdiff_t>(sizeof(T)));
-        };
-        walkElements(roi, Channels, row, s, d);
+template <class T, int Elements>
+PxlStatus copy(Image<const T, Elements> src, Image<T, Elements> dst, ImageSize roi) {
+    if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
+    const auto s = bytesOf(elementsOf(src));
+    const auto d = bytesOf(elementsOf(dst));
+    const auto walkBytes = [&](auto moveRow) {
+        const auto row = [=](ptrdiff_t n, const uint8_t* from, uint8_t* to) { moveRow(from, to, n * s.pixelBytes); };
+        walkElements(roi, Elements, row, s, d);
     };
-    const bool streamed = src != dst && isStreamed(ptrdiff_t{roi.width} * Channels, roi.height, s, d);
+    const bool streamed = src.base != dst.base && isStreamed(ptrdiff_t{roi.width} * Elements, roi.height, s, d);
     if (streamed)
         walkBytes(streamRow);
     else
@@ -40,36 +36,24 @@ PxlStatus CopyElements(const T* src, int srcStep, T* dst, int dstStep, ImageSize
     return PXL_OK;
 }
 
-template <class T, GroupForm Form, class Change>
-PxlStatus ownCopyColour(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, Change change) {
-    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    walkGroups<T, Form>(roi, change, src, srcStep, dst, dstStep);
+// AC4 to AC4, C3 to AC4 and AC4 to C3.
+template <class T, int SrcElements, int DstElements>
+PxlStatus copyColour(Image<const T, SrcElements, 3> src, Image<T, DstElements, 3> dst, ImageSize roi) {
+    if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
+    if constexpr (DstElements == 3) {
+        walkGroups(
+            roi, [](Vec<T> s) { return CompressGroups(s); }, src, dst);
+    } else {
+        const auto change = [](Vec<T> s, Vec<T> old) {
+            if constexpr (SrcElements == 3) s = ExpandGroups(s);
+            return KeepAlpha(old, s);
+        };
+        walkGroups(roi, change, src, dst);
+    }
     return PXL_OK;
 }
 
-template <class T>
-PxlStatus CopyColour(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
-    constexpr GroupForm form{.srcElements = 4, .dstElements = 4, .readsFourth = false, .keepsOld = true};
-    const auto change = [](Vec<T> s, Vec<T> old) { return KeepAlpha(old, s); };
-    return ownCopyColour<T, form>(src, srcStep, dst, dstStep, roi, change);
-}
-
-template <class T>
-PxlStatus CopyToColour(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
-    constexpr GroupForm form{.srcElements = 3, .dstElements = 4, .readsFourth = false, .keepsOld = true};
-    const auto change = [](Vec<T> s, Vec<T> old) { return KeepAlpha(old, ExpandGroups(s)); };
-    return ownCopyColour<T, form>(src, srcStep, dst, dstStep, roi, change);
-}
-
-template <class T>
-PxlStatus CopyFromColour(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
-    constexpr GroupForm form{.srcElements = 4, .dstElements = 3, .readsFourth = false, .keepsOld = false};
-    const auto change = [](Vec<T> s, Vec<T>) { return CompressGroups(s); };
-    return ownCopyColour<T, form>(src, srcStep, dst, dstStep, roi, change);
-}
-
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange
 
 #include "members/exchange/copy.inc"

@@ -14,7 +14,7 @@
 #include "frame/vec/convert.h"
 #include "frame/walk.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 
 inline constexpr int32_t fraction = 13;
 inline constexpr int32_t white = 255 << fraction;
@@ -191,8 +191,8 @@ private:
 };
 
 // Fewer rows than lanes, at the end of an image: the last one is walked again in the lanes that are left over.
-inline void ditherBand(ptrdiff_t width, const Operand<const uint8_t>& src, ptrdiff_t y, ptrdiff_t rowCount,
-                       int32_t level, int32_t* carried, const Streams& streams) {
+inline void ditherBand(ptrdiff_t width, Image<const uint8_t> src, ptrdiff_t y, ptrdiff_t rowCount, int32_t level,
+                       int32_t* carried, const Streams& streams) {
     const uint8_t* rows[bandRows];
     for (ptrdiff_t r = 0; r < bandRows; ++r) rows[r] = src.at(0, y + (r < rowCount ? r : rowCount - 1));
     Wavefront wavefront(level, width, carried);
@@ -205,4 +205,4 @@ inline void ditherBand(ptrdiff_t width, const Operand<const uint8_t>& src, ptrdi
     }
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange

@@ -6,7 +6,7 @@
 #include "frame/vec/channels.h"
 #include "frame/vec/mask.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 
 template <class T>
 inline constexpr int groupPixels = 4 / static_cast<int>(sizeof(T));
@@ -127,7 +127,13 @@ struct OrderLookup {
         keep = BitCast<T>(order > Set<uint8_t>(3));
     }
 
-    PXL_INLINE Vec<T> operator()(Vec<T> source) const { return TableLookupBytesOr0(source, control); }
+    PXL_INLINE Vec<T> operator()(Vec<T> source) const {
+        const Vec<T> shuffled = TableLookupBytesOr0(source, control);
+        if constexpr (S < D)
+            return shuffled | value;
+        else
+            return shuffled;
+    }
 };
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange

@@ -6,7 +6,7 @@
 
 #include "exchange/pixel_masks.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 
 // Where the values come from: a row of the source image, or a pixel repeated.
 struct RowSource {
@@ -92,4 +92,4 @@ PXL_INLINE void blendRow(ptrdiff_t n, const uint8_t* m, uint8_t* d, const Source
     }
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange

@@ -14,7 +14,7 @@
 #include "frame/walk.h"
 #include "pxli.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 namespace {
 
 // What is stored at d where pixels of AC4 move there.
@@ -122,16 +122,15 @@ PXL_INLINE void reverseRowOfThrees(const uint8_t* s, uint8_t* d, ptrdiff_t bytes
 // ---- regions --------------------------------------------------------------------------------------------------------
 
 // Moves rows of so many bytes alike; no destination row meets a source row.
-using MoveRows = void (*)(const uint8_t* s, ptrdiff_t srcStep, uint8_t* d, ptrdiff_t dstStep, ptrdiff_t bytes,
-                          ptrdiff_t rows);
+using MoveRows = void(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t bytes, ptrdiff_t rows);
 
 template <void (*Row)(const uint8_t*, uint8_t*, ptrdiff_t)>
-void eachRow(const uint8_t* s, ptrdiff_t srcStep, uint8_t* d, ptrdiff_t dstStep, ptrdiff_t bytes, ptrdiff_t rows) {
-    for (ptrdiff_t y = 0; y < rows; ++y, s += srcStep, d += dstStep) Row(s, d, bytes);
+void eachRow(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t bytes, ptrdiff_t rows) {
+    for (ptrdiff_t y = 0; y < rows; ++y, src.base += src.step, dst.base += dst.step) Row(src.base, dst.base, bytes);
 }
 
 template <int Bytes, int Moved>
-MoveRows moveRows(bool reversed) {
+MoveRows* moveRows(bool reversed) {
     if constexpr (Moved < Bytes)
         return reversed ? eachRow<reverseRowKeepingAlpha<Bytes, Moved>> : eachRow<copyRowKeepingAlpha<Bytes, Moved>>;
     else if constexpr (Bytes % 3 == 0)
@@ -140,102 +139,99 @@ MoveRows moveRows(bool reversed) {
         return reversed ? eachRow<reverseRow<Bytes>> : eachRow<copyRow>;
 }
 
-bool meet(const uint8_t* a, const uint8_t* b, ptrdiff_t bytes) {
-    const auto extent = [bytes](const uint8_t* p) {
-        return Extent{reinterpret_cast<const char*>(p), reinterpret_cast<const char*>(p + bytes)};
-    };
-    return extent(a).meets(extent(b));
-}
+bool meet(const uint8_t* a, const uint8_t* b, ptrdiff_t bytes) { return a < b + bytes && b < a + bytes; }
 
 template <int Bytes, int Moved>
-void moveOverlapping(const uint8_t* s, uint8_t* d, ptrdiff_t width, bool reversed) {
+void moveOverlappingRow(const uint8_t* s, uint8_t* d, ptrdiff_t width, bool reversed) {
     for (ptrdiff_t x = 0; x < width; ++x) movePixel<Moved>(s + (reversed ? width - 1 - x : x) * Bytes, d + x * Bytes);
 }
 
 template <int Bytes, int Moved>
-void mirror(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ImageSize roi, PxlAxis flip) {
+void mirrorPixels(Image<const uint8_t, Bytes, Moved> src, Image<uint8_t, Bytes, Moved> dst, ImageSize roi,
+                  PxlAxis flip) {
     const bool reversed = flip != PXL_AXIS_HORIZONTAL;
-    const MoveRows move = moveRows<Bytes, Moved>(reversed);
-    const ptrdiff_t bytes = static_cast<ptrdiff_t>(roi.width) * Bytes;
-    if (flip != PXL_AXIS_VERTICAL) {
-        dst += (roi.height - 1) * dstStep;
-        dstStep = -dstStep;
-    }
-    const Operand<const uint8_t> read = {src, srcStep, Bytes};
-    const Operand<uint8_t> written = {dst, dstStep, Bytes};
-    if (!extentOf(read, roi.width, roi.height).meets(extentOf(written, roi.width, roi.height)))
-        return move(src, srcStep, dst, dstStep, bytes, roi.height);
-    for (ptrdiff_t y = 0; y < roi.height; ++y, src += srcStep, dst += dstStep)
-        if (meet(src, dst, bytes))
-            moveOverlapping<Bytes, Moved>(src, dst, roi.width, reversed);
+    MoveRows* const move = moveRows<Bytes, Moved>(reversed);
+    const ptrdiff_t bytes = roi.width * dst.pixelBytes;
+    if (flip != PXL_AXIS_VERTICAL) dst = {dst.at(0, roi.height - 1), -dst.step};
+    if (!extentOf(src, roi.width, roi.height).meets(extentOf(dst, roi.width, roi.height)))
+        return move(elementsOf(src), elementsOf(dst), bytes, roi.height);
+    for (ptrdiff_t y = 0; y < roi.height; ++y) {
+        const uint8_t* const s = src.at(0, y);
+        uint8_t* const d = dst.at(0, y);
+        if (meet(s, d, bytes))
+            moveOverlappingRow<Bytes, Moved>(s, d, roi.width, reversed);
         else
-            move(src, 0, dst, 0, bytes, 1);
+            move({s, 0}, {d, 0}, bytes, 1);
+    }
 }
 
 // Exchanges two disjoint rows, or halves of one. Reversed, the beginning of one meets the end of the other.
-void exchange(uint8_t* a, uint8_t* b, ptrdiff_t bytes, MoveRows move, bool reversed) {
+void exchangeRows(uint8_t* a, uint8_t* b, ptrdiff_t bytes, MoveRows* move, bool reversed) {
     constexpr ptrdiff_t chunk = 480; // whole pixels of every size
     alignas(vecBytes) uint8_t held[chunk];
     for (ptrdiff_t n; bytes > 0; bytes -= n, a += n) {
         n = bytes < chunk ? bytes : chunk;
         uint8_t* other = reversed ? b + bytes - n : b;
         copyRow(a, held, n);
-        move(other, 0, a, 0, n, 1);
-        move(held, 0, other, 0, n, 1);
+        move({other, 0}, {a, 0}, n, 1);
+        move({held, 0}, {other, 0}, n, 1);
         if (!reversed) b += n;
     }
 }
 
 template <int Bytes, int Moved>
-void exchangeOverlapping(uint8_t* a, uint8_t* b, ptrdiff_t width, bool reversed) {
+void exchangeOverlappingRows(uint8_t* a, uint8_t* b, ptrdiff_t width, bool reversed) {
     for (ptrdiff_t x = 0; x < width; ++x)
         exchangePixels<Moved>(a + x * Bytes, b + (reversed ? width - 1 - x : x) * Bytes);
 }
 
 template <int Bytes, int Moved>
-void mirrorInPlace(uint8_t* image, ptrdiff_t step, ImageSize roi, PxlAxis flip) {
+void mirrorPixelsInPlace(Image<uint8_t, Bytes, Moved> image, ImageSize roi, PxlAxis flip) {
     const bool reversed = flip != PXL_AXIS_HORIZONTAL;
-    const MoveRows move = moveRows<Bytes, Moved>(reversed);
-    const ptrdiff_t bytes = static_cast<ptrdiff_t>(roi.width) * Bytes;
-    const ptrdiff_t half = roi.width / 2 * static_cast<ptrdiff_t>(Bytes);
-    const auto reverseHalves = [=](uint8_t* row) { exchange(row, row + bytes - half, half, move, true); };
+    MoveRows* const move = moveRows<Bytes, Moved>(reversed);
+    const ptrdiff_t bytes = roi.width * image.pixelBytes;
+    const ptrdiff_t half = roi.width / 2 * image.pixelBytes;
+    const auto reverseHalves = [=](ptrdiff_t y) {
+        uint8_t* const row = image.at(0, y);
+        exchangeRows(row, row + bytes - half, half, move, true);
+    };
     if (flip == PXL_AXIS_VERTICAL) {
-        for (ptrdiff_t y = 0; y < roi.height; ++y, image += step) reverseHalves(image);
+        for (ptrdiff_t y = 0; y < roi.height; ++y) reverseHalves(y);
         return;
     }
-    uint8_t* other = image + (roi.height - 1) * step;
-    for (ptrdiff_t y = 0; y < roi.height / 2; ++y, image += step, other -= step)
-        if (meet(image, other, bytes))
-            exchangeOverlapping<Bytes, Moved>(image, other, roi.width, reversed);
+    for (ptrdiff_t y = 0; y < roi.height / 2; ++y) {
+        uint8_t* const row = image.at(0, y);
+        uint8_t* const other = image.at(0, roi.height - 1 - y);
+        if (meet(row, other, bytes))
+            exchangeOverlappingRows<Bytes, Moved>(row, other, roi.width, reversed);
         else
-            exchange(image, other, bytes, move, reversed);
-    if (reversed && roi.height % 2) reverseHalves(image);
+            exchangeRows(row, other, bytes, move, reversed);
+    }
+    if (reversed && roi.height % 2) reverseHalves(roi.height / 2);
 }
 
 // ---- entries --------------------------------------------------------------------------------------------------------
 
-bool isAxis(PxlAxis flip) { return flip == PXL_AXIS_HORIZONTAL || flip == PXL_AXIS_VERTICAL || flip == PXL_AXIS_BOTH; }
+Check axis(PxlAxis flip) {
+    return refuse(flip != PXL_AXIS_HORIZONTAL && flip != PXL_AXIS_VERTICAL && flip != PXL_AXIS_BOTH, PXL_E_MIRROR_AXIS);
+}
 
 template <class T, int Elements, int Channels>
-PxlStatus Mirror(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, PxlAxis flip) {
-    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (!isAxis(flip)) return PXL_E_MIRROR_AXIS;
-    mirror<Elements * sizeof(T), Channels * sizeof(T)>(reinterpret_cast<const uint8_t*>(src), srcStep,
-                                                       reinterpret_cast<uint8_t*>(dst), dstStep, roi, flip);
+PxlStatus mirror(Image<const T, Elements, Channels> src, Image<T, Elements, Channels> dst, ImageSize roi,
+                 PxlAxis flip) {
+    if (const PxlStatus status = check(null(src, dst), size(roi), axis(flip))) return status;
+    mirrorPixels(bytesOf(src), bytesOf(dst), roi, flip);
     return PXL_OK;
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus MirrorInPlace(T* srcDst, int step, ImageSize roi, PxlAxis flip) {
-    if (anyNull(srcDst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (!isAxis(flip)) return PXL_E_MIRROR_AXIS;
-    mirrorInPlace<Elements * sizeof(T), Channels * sizeof(T)>(reinterpret_cast<uint8_t*>(srcDst), step, roi, flip);
+PxlStatus mirrorInPlace(Image<T, Elements, Channels> image, ImageSize roi, PxlAxis flip) {
+    if (const PxlStatus status = check(null(image), size(roi), axis(flip))) return status;
+    mirrorPixelsInPlace(bytesOf(image), roi, flip);
     return PXL_OK;
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange
 
 #include "members/exchange/mirror.inc"

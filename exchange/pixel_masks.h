@@ -4,7 +4,7 @@
 #include "frame/vec/partial.h"
 #include "frame/vec/pattern.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 
 // ---- with shuffles of bytes -----------------------------------------------------------------------------------------
 
@@ -169,4 +169,4 @@ template <int E>
 using FewMask =
     std::conditional_t<E % 3 != 0, EvenFew<E>, std::conditional_t<hasByteShuffle, ShuffledFew<E>, WidenedFew<E>>>;
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange

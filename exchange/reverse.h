@@ -4,7 +4,7 @@
 #include "frame/pixel.h"
 #include "frame/vec/shuffle.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 
 // The 8 bytes at p with their pixels of 1, 2, 4 or 8 bytes reversed.
 template <int Bytes>
@@ -124,4 +124,4 @@ PXL_INLINE void storeReversed96(const uint8_t* s, uint8_t* d) {
     });
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange

@@ -7,7 +7,7 @@
 #include "frame/vec/partial.h"
 #include "frame/vec/shuffle.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 
 // A row, and those that lie `apart` bytes behind one another, in the blocks of a vector.
 PXL_INLINE Vec<uint8_t> loadRows(const uint8_t* s, ptrdiff_t apart) {
@@ -103,4 +103,4 @@ PXL_INLINE void transposeBlockOfThrees(const uint8_t* s, ptrdiff_t srcStep, uint
     }
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange

@@ -41,14 +41,22 @@ struct Image<T, anyElements, anyElements> {
     ptrdiff_t pixelBytes;
 
     Image(T* p, ptrdiff_t rowStep, ptrdiff_t bytesOfPixel) : base(p), step(rowStep), pixelBytes(bytesOfPixel) {}
-    template <int Elements, int Channels>
-    Image(const Image<T, Elements, Channels>& image) : Image(image.base, image.step, image.pixelBytes) {}
+    template <class U, int Elements, int Channels>
+    requires std::is_convertible_v<U*, T*> Image(const Image<U, Elements, Channels>& image)
+        : Image(image.base, image.step, image.pixelBytes) {}
 
     T* at(ptrdiff_t x, ptrdiff_t y) const {
         using Byte = std::conditional_t<written, char, const char>;
         return reinterpret_cast<T*>(reinterpret_cast<Byte*>(base) + y * step + x * pixelBytes);
     }
 };
+
+// The image whose first pixel is pixel (x, y) of this one.
+template <class I>
+inline I startingAt(I image, ptrdiff_t x, ptrdiff_t y) {
+    image.base = image.at(x, y);
+    return image;
+}
 
 // Channels alike: every element a pixel of its own. The region is then so many times as wide.
 template <class T, int Elements, int Channels>
@@ -86,5 +94,10 @@ struct Values {
         return value;
     }
 };
+
+template <class T, int Count>
+inline auto bytesOf(const Values<T, Count>& values) {
+    return Values<uint8_t, Count* static_cast<int>(sizeof(T))>{reinterpret_cast<const uint8_t*>(values.base)};
+}
 
 } // namespace pxl::PXL_TARGET

@@ -10,13 +10,13 @@
 namespace pxl::PXL_TARGET::reduce {
 
 template <class T>
-PXL_INLINE ptrdiff_t elementsOf(const Operand<T>& o) {
+PXL_INLINE ptrdiff_t elementsOf(const Image<T, anyElements>& o) {
     return o.pixelBytes / static_cast<ptrdiff_t>(sizeof(T));
 }
 
 // Runs a fold over rows: addPixels(states, room, pixels, pointers...) adds a row, or the whole region as one.
 template <class Fold, class AddPixels, class... T>
-PXL_INLINE void walkFold(Fold& fold, ImageSize roi, AddPixels&& addPixels, const Operand<T>&... o) {
+PXL_INLINE void walkFold(Fold& fold, ImageSize roi, AddPixels&& addPixels, const Image<T, anyElements>&... o) {
     StatesOf<Fold> s;
     s.restart(fold);
     Room<Fold> room;
@@ -38,8 +38,8 @@ PXL_INLINE void walkFold(Fold& fold, ImageSize roi, AddPixels&& addPixels, const
 
 // Folds the regions of sources whose pixels have the same size.
 template <class Fold, class First, class... More>
-[[gnu::noinline, gnu::flatten]] void foldRegion(Fold& fold, ImageSize roi, int channels, Operand<First> source,
-                                                Operand<More>... more) {
+[[gnu::noinline, gnu::flatten]] void foldRegion(Fold& fold, ImageSize roi, int channels,
+                                                Image<First, anyElements> source, Image<More, anyElements>... more) {
     const ptrdiff_t elements = elementsOf(source), unread = elements - channels; // behind the last pixel
     const auto add = [&](auto& s, auto& room, ptrdiff_t pixels, auto... p) __attribute__((always_inline)) {
         addRow(fold, s, room, pixels * elements - unread, p...);

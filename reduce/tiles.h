@@ -32,7 +32,7 @@ PXL_INLINE void forEachTile(ImageSize roi, ptrdiff_t pixelBytes, Visit&& visit) 
 }
 
 template <class T>
-inline Operand<T> tileOf(const Operand<T>& image, const Tile& tile) {
+inline Image<T, anyElements> tileOf(const Image<T, anyElements>& image, const Tile& tile) {
     return {image.at(tile.at.x, tile.at.y), image.step, image.pixelBytes};
 }
 
@@ -72,7 +72,7 @@ PXL_INLINE ptrdiff_t findRegister(const T* p, ptrdiff_t n, Vec<T> value) {
 
 // Where `value` stands first, in the order of the scan, in the channel that `image` begins with; it must stand somewhere.
 template <int Elements, class T>
-[[gnu::noinline]] ImagePoint findFirst(const Operand<const T>& image, ImageSize size, T value) {
+[[gnu::noinline]] ImagePoint findFirst(const Image<const T, anyElements>& image, ImageSize size, T value) {
     const Vec<T> wanted = Set<T>(value);
     const bool joined = image.step == size.width * image.pixelBytes;
     const ptrdiff_t pixels = joined ? static_cast<ptrdiff_t>(size.width) * size.height : size.width;

@@ -109,13 +109,11 @@ void forEachShape(Body body) {
 // ---- sums of integers -------------------------------------------------------------------------------------------------------
 
 template <class T>
-std::vector<uint64_t> plainSums(const Layout& layout, ImageSize size, const Region<T>& a, const Region<T>* b,
-                                const Region<uint8_t>* mask) {
+std::vector<uint64_t> plainSums(const Layout& layout, ImageSize size, const Region<T>& a, const Region<T>* b) {
     std::vector<uint64_t> sum(static_cast<size_t>(layout.channels));
     for (int y = 0; y < size.height; ++y)
         for (int x = 0; x < size.width; ++x)
             for (int c = 0; c < layout.channels; ++c) {
-                if (mask && mask->get(x, y, 0) == 0) continue;
                 const int difference = a.get(x, y, c) - (b ? b->get(x, y, c) : 0);
                 sum[static_cast<size_t>(c)] += static_cast<uint64_t>(std::abs(difference));
             }
@@ -123,19 +121,16 @@ std::vector<uint64_t> plainSums(const Layout& layout, ImageSize size, const Regi
 }
 
 template <class T>
-void expectSums(void (*ReduceProbe::*function)(const ReduceOperands&, uint64_t*), bool two, bool masked) {
+void expectSums(void (*ReduceProbe::*function)(const ReduceOperands&, uint64_t*), bool two) {
     std::mt19937 random(7);
     forEachShape<T>([&](const Layout& layout, ImageSize size, Rows rows) {
         Region<T> a(layout, size, rows), b(layout, size, rows);
-        Region<uint8_t> mask({1, 1}, size, rows);
         const auto any = [&](int) { return static_cast<T>(random()); };
         a.fill(any);
         b.fill(any);
-        mask.fill([&](int) { return static_cast<uint8_t>(random() % 3 ? random() : 0); });
         ReduceOperands operands = a.operands();
         if (two) operands.other = b.base(), operands.otherStep = b.step();
-        if (masked) operands.mask = mask.base(), operands.maskStep = mask.step();
-        const auto expected = plainSums(layout, size, a, two ? &b : nullptr, masked ? &mask : nullptr);
+        const auto expected = plainSums(layout, size, a, two ? &b : nullptr);
         for (const ReduceProbe* probe : availableProbes()) {
             std::vector<uint64_t> sum(expected.size());
             (probe->*function)(operands, sum.data());
@@ -145,16 +140,12 @@ void expectSums(void (*ReduceProbe::*function)(const ReduceOperands&, uint64_t*)
 }
 
 TEST(Reduce, IntegerSums) {
-    expectSums<uint8_t>(&ReduceProbe::sums8u, false, false);
-    expectSums<uint16_t>(&ReduceProbe::sums16u, false, false);
+    expectSums<uint8_t>(&ReduceProbe::sums8u, false);
+    expectSums<uint16_t>(&ReduceProbe::sums16u, false);
 }
 TEST(Reduce, IntegerSumsOfTwoSources) {
-    expectSums<uint8_t>(&ReduceProbe::sums8u, true, false);
-    expectSums<uint16_t>(&ReduceProbe::sums16u, true, false);
-}
-TEST(Reduce, IntegerSumsUnderMasks) {
-    expectSums<uint8_t>(&ReduceProbe::sums8u, false, true);
-    expectSums<uint16_t>(&ReduceProbe::sums16u, false, true);
+    expectSums<uint8_t>(&ReduceProbe::sums8u, true);
+    expectSums<uint16_t>(&ReduceProbe::sums16u, true);
 }
 
 // Rows that fill every narrow accumulator many times over; the rows all lie at the same place.
@@ -201,16 +192,15 @@ TEST(Reduce, RowsWithResultsAreTakenInOrder) {
 // ---- sums of floats ---------------------------------------------------------------------------------------------------------
 
 // Element i of a row goes to part i % 24 (a contiguous region is one row); the parts are joined by halves, then by thirds.
-std::vector<double> plainFloatSums(const Layout& layout, ImageSize size, const Region<float>& a, const Region<float>* b,
-                                   const Region<uint8_t>* mask) {
+std::vector<double> plainFloatSums(const Layout& layout, ImageSize size, const Region<float>& a,
+                                   const Region<float>* b) {
     double part[24] = {};
     for (int y = 0; y < size.height; ++y)
         for (int x = 0; x < size.width; ++x)
             for (int c = 0; c < layout.elements; ++c) {
-                const bool joined = a.step() == size.width * layout.elements * static_cast<int>(sizeof(float)) &&
-                                    (!mask || mask->step() == size.width);
+                const bool joined = a.step() == size.width * layout.elements * static_cast<int>(sizeof(float));
                 const int pixel = joined ? y * size.width + x : x;
-                if (!a.exists(x, y, c) || (mask && mask->get(x, y, 0) == 0)) continue;
+                if (!a.exists(x, y, c)) continue;
                 double& sum = part[(pixel * layout.elements + c) % 24];
                 sum += double{a.get(x, y, c)} - (b ? double{b->get(x, y, c)} : 0);
             }
@@ -225,24 +215,21 @@ std::vector<double> plainFloatSums(const Layout& layout, ImageSize size, const R
     return {part, part + layout.channels};
 }
 
-void expectFloatSums(bool two, bool masked) {
+void expectFloatSums(bool two) {
     std::mt19937 random(11);
     const auto any = [&] { // of all magnitudes, so that the order of additions shows
         return std::ldexp(static_cast<float>(random() % 20001) - 10000.0f, static_cast<int>(random() % 90) - 45);
     };
     forEachShape<float>([&](const Layout& layout, ImageSize size, Rows rows) {
         Region<float> a(layout, size, rows), b(layout, size, rows);
-        Region<uint8_t> mask({1, 1}, size, rows);
         const auto element = [&](int c) {
             return c < layout.channels ? any() : std::numeric_limits<float>::quiet_NaN();
         };
         a.fill(element);
         b.fill(element);
-        mask.fill([&](int) { return static_cast<uint8_t>(random() % 3 ? random() : 0); });
         ReduceOperands operands = a.operands();
         if (two) operands.other = b.base(), operands.otherStep = b.step();
-        if (masked) operands.mask = mask.base(), operands.maskStep = mask.step();
-        const auto expected = plainFloatSums(layout, size, a, two ? &b : nullptr, masked ? &mask : nullptr);
+        const auto expected = plainFloatSums(layout, size, a, two ? &b : nullptr);
         for (const ReduceProbe* probe : availableProbes()) {
             std::vector<double> sum(expected.size());
             probe->sums32f(operands, sum.data());
@@ -252,12 +239,8 @@ void expectFloatSums(bool two, bool masked) {
     });
 }
 
-TEST(Reduce, FloatSumsHaveOneGrouping) { expectFloatSums(false, false); }
-TEST(Reduce, FloatSumsOfTwoSources) { expectFloatSums(true, false); }
-TEST(Reduce, FloatSumsUnderMasks) {
-    expectFloatSums(false, true);
-    expectFloatSums(true, true);
-}
+TEST(Reduce, FloatSumsHaveOneGrouping) { expectFloatSums(false); }
+TEST(Reduce, FloatSumsOfTwoSources) { expectFloatSums(true); }
 
 // ---- extrema with places ----------------------------------------------------------------------------------------------------
 

@@ -105,6 +105,13 @@ template <int E>
 PXL_INLINE Pattern<E> colourPattern(const void* pixel) {
     return repeatPixel<E>(LoadBlock<colourBytes<E>>(pixel));
 }
+template <int E, int Processed>
+PXL_INLINE Pattern<E> pixelPattern(const void* pixel) {
+    if constexpr (E == Processed)
+        return patternOf<E>(pixel);
+    else
+        return colourPattern<E>(pixel);
+}
 // All ones in fourth elements.
 template <int E>
 PXL_INLINE Pattern<E> alphaPattern() {

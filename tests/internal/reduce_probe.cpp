@@ -1,7 +1,6 @@
 #include "reduce_probe.h"
 
 #include "reduce/accumulators.h"
-#include "reduce/masked.h"
 #include "reduce/region.h"
 #include "reduce/tiles.h"
 
@@ -91,18 +90,14 @@ struct Largest {
 // ---- calls ------------------------------------------------------------------------------------------------------------------
 
 template <class T>
-Operand<const T> operandOf(const void* base, int step, int elements) {
-    return operand(static_cast<const T*>(base), step, elements);
+Image<const T, anyElements> operandOf(const void* base, int step, int elements) {
+    return {static_cast<const T*>(base), step, elements * static_cast<ptrdiff_t>(sizeof(T))};
 }
 
 template <int Elements, class Fold>
 void run(const ReduceOperands& o, Fold& fold) {
     using T = typename Fold::Element;
     const auto a = operandOf<T>(o.src, o.srcStep, Elements), b = operandOf<T>(o.other, o.otherStep, Elements);
-    const auto mask = operand(o.mask, o.maskStep);
-    if constexpr (std::is_same_v<T, float>)
-        if (o.mask && o.other) return foldMasked<Elements>(fold, o.roi, o.channels, mask, a, b);
-    if (o.mask) return foldMasked<Elements>(fold, o.roi, o.channels, mask, a);
     if (o.other) return foldRegion(fold, o.roi, o.channels, a, b);
     foldRegion(fold, o.roi, o.channels, a);
 }
@@ -143,7 +138,7 @@ void floatSums(const ReduceOperands& o, double* sum) {
 template <class T>
 void largest(const ReduceOperands& o, T* value, ImagePoint* at) {
     withElements(o, [&](auto elements) {
-        const Operand<const T> image = operandOf<T>(o.src, o.srcStep, elements);
+        const Image<const T, anyElements> image = operandOf<T>(o.src, o.srcStep, elements);
         Tile winner[elements];
         for (int c = 0; c < o.channels; ++c) {
             value[c] = load1(image.base + c);
@@ -159,7 +154,7 @@ void largest(const ReduceOperands& o, T* value, ImagePoint* at) {
                 }
         });
         for (int c = 0; c < o.channels; ++c) {
-            Operand<const T> channel = tileOf(image, winner[c]);
+            Image<const T, anyElements> channel = tileOf(image, winner[c]);
             channel.base += c;
             at[c] = winner[c].at;
             if (value[c] != value[c]) continue; // a NaN first pixel stays

@@ -13,21 +13,19 @@ struct ReduceOperands {
     int srcStep;
     const void* other = nullptr; // a second source, or null
     int otherStep = 0;
-    const uint8_t* mask = nullptr; // or null
-    int maskStep = 0;
 };
 
 struct ReduceProbe {
     const char* target;
     const ReduceProbe* next; // those of all targets are linked to one another
-    // Per channel: sums of elements, or of absolute differences to the second source (without a mask).
+    // Per channel: sums of elements, or of absolute differences to the second source.
     void (*sums8u)(const ReduceOperands&, uint64_t*);
     void (*sums16u)(const ReduceOperands&, uint64_t*);
-    // r = 0.75 r + the sum of a row, from the first row to the last; of one source, without a mask.
+    // r = 0.75 r + the sum of a row, from the first row to the last; of one source.
     void (*sumsOfRows16u)(const ReduceOperands&, double*);
     // Sums in 24 parts, of elements or of differences to the second source.
     void (*sums32f)(const ReduceOperands&, double*);
-    // The largest element and its first place; of one source, without a mask.
+    // The largest element and its first place; of one source.
     void (*largest8u)(const ReduceOperands&, uint8_t*, ImagePoint*);
     void (*largest32f)(const ReduceOperands&, float*, ImagePoint*);
 };
