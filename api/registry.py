@@ -147,7 +147,8 @@ def member_of(entry, form, types, code):
         return member
     member.facts = Facts(**(entry.get("facts", {}) | form.get("facts", {})))
     member.room = entry["file"].partition("/")[0]
-    member.targets = tuple(t.name for t in targets() if not t.optional or t.name in form.get("targets", ()))
+    asked = form.get("targets", {}) # of optional targets, the members that ask for them
+    member.targets = tuple(t.name for t in targets() if not t.optional or f"{types}_{code}" in asked.get(t.name, ()))
     member.call = form["call"].format(**names)
     member.params, member.passed = _parameters(member, form["args"])
     return member
