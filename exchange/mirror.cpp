@@ -55,9 +55,23 @@ PXL_INLINE void byEnds(uint8_t* d, ptrdiff_t bytes, Make&& make) {
 
 // ---- rows as they are -----------------------------------------------------------------------------------------------
 
+PXL_INLINE void moveShortRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+    if (bytes < vecBytes)
+        copyFew<vecBytes>(d, s, static_cast<size_t>(bytes));
+    else
+        byRegisters(d, bytes, [=](ptrdiff_t x) { return LoadU(s + x); });
+}
+// In line up to longer rows than copyRow: here the calls took a third of the time.
+PXL_INLINE void moveRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+    if (bytes <= 4096)
+        moveShortRow(s, d, bytes);
+    else
+        std::memcpy(d, s, static_cast<size_t>(bytes));
+}
+
 // The last pixel is moved by itself.
 template <int Bytes, int Moved>
-PXL_INLINE void copyRowKeepingAlpha(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+PXL_INLINE void moveRowKeepingAlpha(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     const ptrdiff_t last = bytes - Bytes;
     if (last >= vecBytes)
         byRegisters(d, last, [=](ptrdiff_t x) { return keepingAlpha<Bytes>(LoadU(s + x), d + x); });
@@ -132,11 +146,11 @@ void eachRow(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t bytes, ptrd
 template <int Bytes, int Moved>
 MoveRows* moveRows(bool reversed) {
     if constexpr (Moved < Bytes)
-        return reversed ? eachRow<reverseRowKeepingAlpha<Bytes, Moved>> : eachRow<copyRowKeepingAlpha<Bytes, Moved>>;
+        return reversed ? eachRow<reverseRowKeepingAlpha<Bytes, Moved>> : eachRow<moveRowKeepingAlpha<Bytes, Moved>>;
     else if constexpr (Bytes % 3 == 0)
-        return reversed ? eachRow<reverseRowOfThrees<Bytes>> : eachRow<copyRow>;
+        return reversed ? eachRow<reverseRowOfThrees<Bytes>> : eachRow<moveRow>;
     else
-        return reversed ? eachRow<reverseRow<Bytes>> : eachRow<copyRow>;
+        return reversed ? eachRow<reverseRow<Bytes>> : eachRow<moveRow>;
 }
 
 bool meet(const uint8_t* a, const uint8_t* b, ptrdiff_t bytes) { return a < b + bytes && b < a + bytes; }
@@ -172,7 +186,7 @@ void exchangeRows(uint8_t* a, uint8_t* b, ptrdiff_t bytes, MoveRows* move, bool 
     for (ptrdiff_t n; bytes > 0; bytes -= n, a += n) {
         n = bytes < chunk ? bytes : chunk;
         uint8_t* other = reversed ? b + bytes - n : b;
-        copyRow(a, held, n);
+        moveShortRow(a, held, n);
         move({other, 0}, {a, 0}, n, 1);
         move({held, 0}, {other, 0}, n, 1);
         if (!reversed) b += n;

@@ -73,35 +73,17 @@ PXL_INLINE void copyFew(void* to, const void* from, size_t n) {
     if (n == 1) *d = *s;
 }
 
-// Rows of more than 8 vectors. Up to some size vectors as wide as these gain on the call; narrower ones lose to it.
-[[gnu::noinline]] inline void copyLongRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
-    constexpr ptrdiff_t most = vecBytes > 16 ? 4096 : 0, run = 4 * vecBytes;
-    if (bytes > most) return static_cast<void>(std::memmove(d, s, static_cast<size_t>(bytes)));
-    const Vec<uint8_t> last = LoadU(s + bytes - vecBytes);
-    ptrdiff_t x = 0;
-    for (; x + run <= bytes; x += run)
-        unrolled<4>([&](auto j)
-                        __attribute__((always_inline)) { StoreU(LoadU(s + x + j * vecBytes), d + x + j * vecBytes); });
-    for (; x + vecBytes < bytes; x += vecBytes) StoreU(LoadU(s + x), d + x);
-    if (x < bytes) StoreU(last, d + bytes - vecBytes);
-}
-
 // Copies a row to one that is disjoint from it, or to itself. Short rows in line: a call would cost as much as the copy.
 // The vector at the end is loaded first, since it may overlap what is stored before it.
 PXL_INLINE void copyRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
-    if (bytes < 32) return copyFew<32>(d, s, static_cast<size_t>(bytes));
-    if (bytes > 8 * vecBytes) return copyLongRow(s, d, bytes);
-    if (bytes <= 64 && vecBytes <= 32) { // both ends, as runs of 32 bytes
-        const Vec<uint8_t> ends[] = {LoadU(s), LoadU(s + 32 - vecBytes), LoadU(s + bytes - 32),
-                                     LoadU(s + bytes - vecBytes)};
-        StoreU(ends[0], d);
-        StoreU(ends[1], d + 32 - vecBytes);
-        StoreU(ends[2], d + bytes - 32);
-        StoreU(ends[3], d + bytes - vecBytes);
-        return;
-    }
+    if (bytes < vecBytes) return copyFew<vecBytes>(d, s, static_cast<size_t>(bytes));
+    if (bytes > 8 * vecBytes) return static_cast<void>(std::memmove(d, s, static_cast<size_t>(bytes)));
     const Vec<uint8_t> last = LoadU(s + bytes - vecBytes);
-    for (ptrdiff_t x = 0; x < bytes - vecBytes; x += vecBytes) StoreU(LoadU(s + x), d + x);
+    if (bytes <= 2 * vecBytes) {
+        StoreU(LoadU(s), d);
+    } else {
+        for (ptrdiff_t x = 0; x < bytes - vecBytes; x += vecBytes) StoreU(LoadU(s + x), d + x);
+    }
     StoreU(last, d + bytes - vecBytes);
 }
 
