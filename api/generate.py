@@ -8,23 +8,27 @@ the generic tests iterate over.
     generate.py names                prints every exported name
 """
 
+import re
 import sys
 from pathlib import Path
 
+import prose
 import registry
 import vocabulary as v
 
 ROOT = Path(__file__).parent.parent
-RULE = "-" * 110
+RULE = "-" * 117
 
 
 def header_text():
-    parts = [(registry.API / "preamble.h").read_text()]
-    for _, title, families in registry.load():
-        parts.append(f"/* ==== {title} {'=' * (113 - len(title))} */\n")
+    rooms = registry.load()
+    preamble = (registry.API / "preamble.h").read_text()
+    parts = [preamble.replace("    /* STATUS CODES */", prose.codes_text([f for _, _, families in rooms for f in families]))]
+    for _, title, families in rooms:
+        parts.append(f"/* ==== {title} {'=' * (108 - len(title))} */\n")
         for family in families:
-            doc = "\n".join(f" * {line}".rstrip() for line in family.doc.splitlines())
-            parts.append(f"\n/* {RULE}\n * {family.title} ({family.file})\n *\n{doc}\n */\n")
+            text = f"{family.title} ({family.file})\n\n{family.doc}\n\n{prose.statuses_text(family.statuses)}"
+            parts.append(f"\n/* {RULE}\n{prose.comment(text)}\n */\n")
             parts += [wrap(f"{m.c_prototype};") + "\n" for m in family.members]
         parts.append("\n")
     parts.append('#include "pxl_linkage.h"\n\n#endif\n')
@@ -56,7 +60,7 @@ def targeted(families):
 
 def lane_type(param, member):
     """The C type of what a parameter points at; members that only move bits see the unsigned type of the same size."""
-    if member.bits and param.role not in ("Mask", "Order"):
+    if member.bits and param.role in (*v.IMAGES, "Values", "Element") and param.role != "Mask":
         return v.BITS_TYPES[v.SIZES[param.element]]
     return v.C_TYPES[param.element]
 
@@ -81,8 +85,8 @@ def passed_argument(param, step, member, read):
         shape = f"{side.elements}" if side.channels == side.elements else f"{side.elements}, {side.channels}"
         return f"Image<{const}{lane}, {shape}>{{{pointer}, {step.name}}}"
     if param.per_channel:
-        pointer = as_lanes(param, member, f"&{param.name}" if param.role == "Element" else param.name)
-        return f"Values<{lane_type(param, member)}, {param.count}>{{{pointer}}}"
+        pointer = as_lanes(param, member, param.name if param.role == "Values" else f"&{param.name}")
+        return f"Values<{lane_type(param, member)}, {param.count or 1}>{{{pointer}}}"
     if param.role == "Element" and member.bits:
         return f"std::bit_cast<{lane_type(param, member)}>({param.name})"
     return param.name
@@ -92,20 +96,14 @@ def passed_arguments(member):
     arguments, params = [], iter(member.passed)
     images = [p.name for p in member.passed if p.role in v.IMAGES]
     for param in params:
+        size = next(params) if param.sized else None
         step = next(params) if param.role in v.IMAGES else None
         read = param.role in ("Source", "Mask") or images.count(param.name) > 1  # in place, a source first
         if step:
             images.remove(param.name)
         arguments.append(passed_argument(param, step, member, read))
+        arguments += [size.name] if size else []
     return ", ".join(arguments)
-
-
-def loose_argument(param, member):
-    if not param.element or param.role in ("Mask", "Order"):
-        return param.name
-    if param.role == "Element":
-        return f"std::bit_cast<{lane_type(param, member)}>({param.name})" if member.bits else param.name
-    return as_lanes(param, member, param.name)
 
 
 def members_text(source, members):
@@ -113,8 +111,7 @@ def members_text(source, members):
     lines = [f"// The members of {source}, generated from the registry.", "#include <bit>", "",
              f"namespace pxl::PXL_TARGET::{members[0].room} {{"]
     for m in members:
-        args = ", ".join(loose_argument(p, m) for p in m.passed) if m.loose else passed_arguments(m)
-        lines.append(f"{m.c_prototype} {{ return {m.call}({args}); }}")
+        lines.append(f"{m.c_prototype} {{ return {m.call}({passed_arguments(m)}); }}")
     return "\n".join(lines + [f"}} // namespace pxl::PXL_TARGET::{members[0].room}", ""])
 
 
@@ -181,30 +178,94 @@ def version_script(names):
     return f"PXLIMX_5.3 {{\n    global:\n{body}\n    local:\n        *;\n}};\n"
 
 
-def table_text():
+def table_text(members, allocators):
     """The tables of tests/generic/member.h: every member with its parameters and a way to call it, and the allocators."""
     lines = ["// The exported functions, generated from the registry.",
              '#include "generic/member.h"', "", '#include "pxli.h"', "", "namespace generic {", "namespace {", ""]
     rows = []
-    for m in all_members():
+    for m in members:
         if m.params is None:
             continue
         args = ", ".join(thunk_argument(p, i) for i, p in enumerate(m.params))
         lines.append(f"int32_t call_{m.name}(const reference::Arg* a) {{ return {m.name}({args}); }}")
-        params = ", ".join(param_row(p) for p in m.params)
+        params = ", ".join(param_row(p, m) for p in m.params)
         lines.append(f"const Param params_{m.name}[] = {{{params}}};")
         rows.append(f'    {{{{"{m.name}", "{m.family}", "{m.src}", "{m.dst}", "{m.layout}", "{m.mode}"}}, '
-                    f'params_{m.name}, {len(m.params)}, call_{m.name}, "{" ".join(m.targets)}"}},')
+                    f'params_{m.name}, {len(m.params)}, call_{m.name}, "{" ".join(m.targets)}", {facts_row(m.facts)}}},')
     lines += ["", "const Member table[] = {", *rows, "};", "", "const Allocator allocatorTable[] = {",
-              *[f'    {{"{n}", [](int w, int h, int* s) -> void* {{ return {n}(w, h, s); }}}},' for n in allocator_names()],
+              *[f'    {{"{n}", [](int w, int h, int* s) -> void* {{ return {n}(w, h, s); }}}},' for n in allocators],
               "};", "} // namespace", "", "std::span<const Member> members() { return table; }",
               "std::span<const Allocator> allocators() { return allocatorTable; }", "", "} // namespace generic", ""]
     return "\n".join(lines)
 
 
-def param_row(p):
-    return (f'{{Role::{p.role}, "{p.name}", "{p.element}", {p.side.elements}, {p.side.channels}, {p.side.planes}, '
-            f'{p.count}, "{p.bound}"}}')
+def position(name, member):
+    """The position of a parameter by its name."""
+    return [p.name for p in member.params].index(name)
+
+
+def param_row(p, member):
+    meaning = p.meaning
+    windows = [v.WINDOWS[q.region] for q in member.params if q.region in v.WINDOWS]
+    if any(w.size == p.name and w.kind in ("Sized", "Row", "Column") for w in windows):
+        meaning = "WindowSize"
+    if any(w.anchor == p.name for w in windows):
+        meaning = "WindowAnchor"
+    return (f'{{Role::{p.role}, Meaning::{meaning}, "{p.name}", "{p.element}", {p.side.elements}, {p.side.channels}, '
+            f'{p.side.planes}, {region_row(p.region, member)}, {count_row(p.count, member)}, {valid_row(p.valid)}}}')
+
+
+def region_row(region, member):
+    """Of an image: a shape, the parameters that it depends on, and the window that is read around it."""
+    if not region:
+        return "{}"
+    of = lambda name: str(position(name, member))
+    if region in v.WINDOWS:
+        w = v.WINDOWS[region]
+        size, anchor = (of(name) if name else "-1" for name in (w.size, w.anchor))
+        sides = ", ".join(map(str, w.sides))
+        window = f"{{Window::{w.kind}, {size}, {anchor}, {'true' if w.mirrored else 'false'}, {{{sides}}}}}"
+        return f"{{Shape::Plain, {of('roiSize')}, -1, {window}}}"
+    if region == "transposed":
+        return f"{{Shape::Transposed, {of('roiSize')}}}"
+    if region == "8x8":
+        return "{Shape::Block}"
+    if joined := re.fullmatch(r"(\w+)([+-])(\w+)[+-]1", region):
+        shape = "Joined" if joined[2] == "+" else "Moved"
+        return f"{{Shape::{shape}, {of(joined[1])}, {of(joined[3])}}}"
+    if wide := re.fullmatch(r"(\w+)x(\w+)", region):
+        return f"{{Shape::OwnWidth, {of(wide[1])}, {of(wide[2])}}}"
+    return f"{{Shape::Plain, {of(region)}}}"
+
+
+def count_row(count, member):
+    """Entries of an array: a fixed number, or what parameters say."""
+    if count == "" or count.isdigit():
+        return f"{{{count}}}"
+    power, less = count.startswith("2^"), count.endswith("-1")
+    names = count.removeprefix("2^").removesuffix("-1").split("*")
+    first, second = [position(n, member) for n in names] + [-1] * (2 - len(names))
+    return f"{{0, {first}, {second}, {'true' if power else 'false'}, {'true' if less else 'false'}}}"
+
+
+def valid_row(valid):
+    """The least and the greatest valid number, and of those below 64 a bit for each, unless all between are valid."""
+    if not valid:
+        return "{}"
+    if ".." in valid:
+        low, high = valid.split("..")
+        return f"{{true, {low}, {high}}}"
+    numbers = [int(n) for n in valid.split(",")]
+    return f"{{true, {min(numbers)}, {max(numbers)}, {sum(1 << n for n in numbers):#x}}}"
+
+
+def facts_row(facts):
+    rows = {"any": "Any", "apart": "Apart", "written apart": "WrittenApart"}[facts.rows]
+    whole = {"bytes": "false", "whole elements": "true"}[facts.steps]
+    flag = lambda on: "true" if on else "false"
+    windows = ", ".join(f"{{{w}, {h}}}" for w, h in facts.windows)
+    return (f'{{Rows::{rows}, {whole}, {flag(facts.overlap)}, {flag(facts.square)}, {{{facts.large[0]}, {facts.large[1]}}}, '
+            f'{{{windows}}}, {flag(facts.running)}}}')
 
 
 def thunk_argument(p, i):
@@ -212,15 +273,15 @@ def thunk_argument(p, i):
         return f"*static_cast<const {p.ctype}*>(a[{i}].ptr)"
     if p.role in ("Size", "Point"):
         return f"{p.ctype}{{a[{i}].width, a[{i}].height}}"
+    if p.role == "Rect":
+        return f"*static_cast<const {p.ctype}*>(a[{i}].ptr)"
     if p.role in ("Step", "Integer"):
         return f"static_cast<{p.ctype}>(a[{i}].num)"
     if p.role == "Real" or (p.role == "Element" and p.element in ("32f", "64f")):
         return f"static_cast<{p.ctype}>(a[{i}].real)"
     if p.role == "Element":
         return f"static_cast<{p.ctype}>(a[{i}].num)"
-    if p.role in ("Source", "Mask", "Destination", "InPlace", "Inside", "Values", "Order", "Table", "Tables", "Result", "Buffer"):
-        return f"(({p.type_only})a[{i}].ptr)"
-    raise ValueError(f"no way to pass a {p.role} yet")
+    return f"(({p.type_only})a[{i}].ptr)"
 
 
 def write_sources(out, targets):
@@ -242,7 +303,7 @@ def write_sources(out, targets):
     write(out / "pxlimx.map", version_script(names))
     write(out / "pxlimx.def", "EXPORTS\n" + "".join(f"    {n}\n" for n in names))
     write(out / "target_list.h", target_list_text(targets))
-    write(out / "member_table.cpp", table_text())
+    write(out / "member_table.cpp", table_text(all_members(), allocator_names()))
 
 
 def main(argv):

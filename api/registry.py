@@ -1,11 +1,11 @@
 """Reads the registry (api/*.toml) and expands its families into members, one per exported function."""
 
 import functools
+import re
 import tomllib
-from dataclasses import dataclass
+from dataclasses import dataclass, field
 from pathlib import Path
 
-import loose
 import vocabulary as v
 
 API = Path(__file__).parent
@@ -15,6 +15,24 @@ SUBSYSTEMS = [  # header order
     ("arith", "Arithmetic and logic"),
     ("filter", "Filters"),
 ]
+LAYOUTS = {  # names that stand for several layouts; modes follow them: "pixels R IR"
+    "pixels": ("C1", "C3", "C4"),
+    "pixels+alpha": ("C1", "C3", "C4", "AC4"),
+    "complex": ("C1", "C3", "AC4"),
+}
+
+
+@dataclass
+class Facts:
+    """What tests must know of a family or form beyond its arguments: `facts = { ... }` in its entry."""
+    rows: str = "any"        # "apart": a step below a row is refused or leaves the order of rows free; "written apart": the same of
+                             # those that are written
+    steps: str = "bytes"     # "whole elements": what is over is dropped
+    overlap: bool = True     # operands may overlap in part, with the result of the plain loop
+    square: bool = False     # other regions are refused
+    large: tuple = (0, 0)    # regions that are large in both directions, up to this size, take ways of their own
+    windows: tuple = ()      # window sizes beside which the formula changes
+    running: bool = False    # sums of floats run on, so that an infinity stays in them, and restart for every thread of a team
 
 
 @dataclass
@@ -33,7 +51,7 @@ class Member:
     bits: bool = False
     room: str = ""               # the folder of its source, and the namespace of its template
     targets: tuple = ()          # the names of the targets that it is compiled for
-    loose: bool = False          # its template takes pointers and steps one by one
+    facts: Facts = field(default_factory=Facts)
     prototype: str = ""      # set for members that follow no pattern; they are the same on every target
 
     @property
@@ -66,7 +84,8 @@ class Family:
     name: str
     title: str
     file: str
-    doc: str
+    doc: str                 # see prose.py
+    statuses: list           # in the order in which they are tested; see prose.py
     members: list
 
     @property
@@ -90,35 +109,47 @@ def _families(path):
     families = []
     for entry in data["family"]:
         members = [m for form in entry["form"] for m in _members(entry, form)]
-        families.append(Family(entry["name"], entry.get("title", entry["name"]), entry["file"], entry["doc"].strip(), members))
+        families.append(Family(entry["name"], entry.get("title", entry["name"]), entry["file"], entry["doc"].strip(),
+                               entry.get("statuses", []), members))
     return families
 
 
 def _members(entry, form):
-    if "layouts" not in form:
+    if "types" not in form and "prototype" in form:
         prototype = form["prototype"]
         name = prototype.partition("(")[0].split()[-1].lstrip("*")
         return [Member(name, entry["name"], prototype=prototype, call=form["call"])]
-    return [_member(entry, form, types, code) for types in form["types"] for code in form["layouts"]]
+    return [member_of(entry, form, types, code) for types in form.get("types", [""])
+            for code in _layout_codes(form.get("layouts", [""]))]
 
 
-def _member(entry, form, types, code):
+def _layout_codes(words):
+    """['pixels R IR', 'C3CR'] -> ['C1R', 'C3R', 'C4R', 'C1IR', 'C3IR', 'C4IR', 'C3CR']"""
+    codes = []
+    for word in words:
+        name, *modes = word.split(" ")
+        codes += [layout + mode for mode in modes for layout in LAYOUTS[name]] if modes else [name]
+    return codes
+
+
+def member_of(entry, form, types, code):
+    """The member of a form with this type code and this layout and mode, either of which may be missing."""
     family = entry["name"]
     src, dst = v.split_types(types)
-    layout, mode = v.split_layout(code)
+    layout, mode = v.split_layout(code) if code else ("", "")
     src_side, dst_side = v.parse_layout(layout)
-    member = Member(f"pxli{family}_{types}_{code}", family, src, dst, layout, mode, src_side, dst_side,
+    member = Member("_".join(filter(None, [f"pxli{family}", types, code])), family, src, dst, layout, mode, src_side, dst_side,
                     bits=form.get("bits", False))
     names = _placeholders(member)
     if "prototype" in form:
         member.call = form["call"].format(**names)
         member.prototype = form["prototype"].format(**names)
         return member
+    member.facts = Facts(**(entry.get("facts", {}) | form.get("facts", {})))
     member.room = entry["file"].partition("/")[0]
-    member.targets = tuple(t.name for t in targets() if not t.optional or t.name in form.get("targets", ()))
-    loose_call = loose.CALLS.get(entry["file"], {}).get(form["call"])
-    member.loose = loose_call is not None
-    member.call = (loose_call or form["call"]).format(**names)
+    asked = form.get("targets", {}) # of optional targets, the members that ask for them
+    member.targets = tuple(t.name for t in targets() if not t.optional or f"{types}_{code}" in asked.get(t.name, ()))
+    member.call = form["call"].format(**names)
     member.params, member.passed = _parameters(member, form["args"])
     return member
 
@@ -127,26 +158,25 @@ def _parameters(member, words):
     """The C parameters of a member, and those that its template gets.
 
     A form that states the arguments of an out-of-place operation serves in-place members too: srcDst stands in the place of
-    the last source, a constant before it, and the template gets srcDst as that source and as the destination.
+    the last source, a constant that stood before the destination in front of it, and the template gets srcDst as that source
+    and as the destination.
     """
-    if "I" not in member.mode or "dst" not in words:
+    bases = [re.match(r"\w*", word)[0] for word in words]
+    if "I" not in member.mode or "dst" not in bases:
         params = [p for word in words for p in v.expand(word, member)]
         return params, params
-    two_sources = "src2" in words
     rename = {"src1": "src", "src2": "srcDst", "src": "srcDst", "dst": "srcDst"}
-    kept = [rename.get(word, word) for word in words if word != "dst"]
-    if not two_sources:
-        kept.sort(key=lambda word: word.partition(":")[0] not in ("value", "shift"))
+    renamed = [rename.get(base, base) + word.removeprefix(base) for base, word in zip(bases, words)]
+    dst = bases.index("dst")
+    kept = renamed[:dst] + renamed[dst + 1:]
+    if "src2" not in bases:
+        before = [word for base, word in zip(bases[:dst], words) if base in ("value", "shift")]
+        kept.sort(key=lambda word: word not in before)
     params = [p for word in kept for p in v.expand(word, member)]
-    passed = [p for word in words for p in v.expand(rename.get(word, word), member)]
+    passed = [p for word in renamed for p in v.expand(word, member)]
     return params, passed
 
 
 def _placeholders(member):
     """What a form's `call` and `prototype` may name in braces."""
-    def ctype(code):
-        return v.BITS_TYPES[v.SIZES[code]] if member.bits else v.C_TYPES[code]
-    return {"name": member.name, "S": ctype(member.src), "D": ctype(member.dst),
-            "elements": member.dst_side.elements, "channels": member.dst_side.channels,
-            "srcElements": member.src_side.elements, "planes": member.dst_side.planes,
-            "inPlace": "true" if "I" in member.mode else "false"}
+    return {"name": member.name, "D": v.C_TYPES.get(member.dst, ""), "elements": member.dst_side.elements}

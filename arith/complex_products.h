@@ -13,7 +13,7 @@ namespace pxl::PXL_TARGET::arith {
 
 struct ComplexFloatProduct {
     PXL_INLINE Vec<float> operator()(Vec<float> x, Vec<float> y) const {
-        return SubAdd(DupEven(x) * y, DupOdd(x) * SwapPairs(y));
+        return AddSub(DupEven(x) * y, DupOdd(x) * Reverse2(y));
     }
 };
 
@@ -25,11 +25,11 @@ PXL_INLINE Vec<int16_t> complexProductOf(Vec<int16_t> x, Vec<int16_t> y, Narrow&
     // a*c + b*(-1 - d) and b more is a*c - b*d; -d itself might not fit.
     const Vec<int16_t> conjugate = y ^ BitCast<int16_t>(Set<uint32_t>(0xFFFF0000));
     const Vec<int32_t> b = ShiftRight<16>(BitCast<int32_t>(x));
-    const auto real = BitCast<int32_t>(BitCast<uint32_t>(MulPairsAdd(x, conjugate)) + BitCast<uint32_t>(b));
-    const Vec<int32_t> sum = MulPairsAdd(x, SwapPairs(y));
+    const auto real = BitCast<int32_t>(BitCast<uint32_t>(WidenMulPairwiseAdd(x, conjugate)) + BitCast<uint32_t>(b));
+    const Vec<int32_t> sum = WidenMulPairwiseAdd(x, Reverse2(y));
     const Vec<int32_t> imaginary = sum ^ BitCast<int32_t>(sum == Set<int32_t>(INT32_MIN));
     const Vec<int32_t> re = narrow(real), im = narrow(imaginary);
-    return DemoteBlocks<int16_t>(InterleaveLowerBlocks(re, im), InterleaveUpperBlocks(re, im));
+    return ReorderDemote2To<int16_t>(InterleaveLower(re, im), InterleaveUpper(re, im));
 }
 
 // ---- 32sc -----------------------------------------------------------------------------------------------------------

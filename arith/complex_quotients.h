@@ -5,8 +5,8 @@
 #pragma once
 
 #include "arith/division.h"
-#include "frame/vec_arith.h"
-#include "frame/vec_divide.h"
+#include "arith/fields.h"
+#include "frame/ranges.h"
 
 namespace pxl::PXL_TARGET::arith {
 
@@ -18,12 +18,12 @@ struct ComplexFloatQuotient : Quotient {
     };
 
     PXL_INLINE Divisor prepare(Vec<float> x) const {
-        const Vec<float> squares = x * x, m = squares + SwapPairs(squares);
+        const Vec<float> squares = x * x, m = squares + Reverse2(squares);
         const Vec<float> sign = BitCast<float>(Set<uint32_t>(0x80000000));
         return {DupEven(x), DupOdd(x) ^ sign, Set<float>(1) / m, m == Zero<float>()};
     }
     PXL_INLINE Vec<float> operator()(Vec<float> y, const Divisor& x) const {
-        const Vec<float> product = SubAdd(x.real * y, x.minusImaginary * SwapPairs(y));
+        const Vec<float> product = AddSub(x.real * y, x.minusImaginary * Reverse2(y));
         const Vec<float> undefined = BitCast<float>(Set<uint32_t>(0xFFC00000));
         return IfThenElse(x.zero, undefined, product * x.reciprocal);
     }
@@ -33,7 +33,7 @@ struct ComplexFloatQuotient : Quotient {
 // rounds to a double, and what is left to do then is rounding to nearest. Parts outside the range saturate.
 template <class L>
 struct RoundPart {
-    static constexpr L largest = sizeof(L) == 2 ? INT16_MAX : INT32_MAX;
+    static constexpr L largest = highestOf<L>;
 
     // What the part is more than the smallest number, in the lower bits.
     static PXL_INLINE Vec<uint64_t> above(Vec<double> q) {
@@ -110,7 +110,7 @@ struct ComplexQuotient<int16_t> : Quotient {
     PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> y, const Divisor& x) const {
         using Part = RoundPart<int16_t>;
         // a*d + b*(-1 - c) and b more is a*d - b*c; -c itself might not fit.
-        const Vec<int16_t> turned = SwapPairs(y) ^ BitCast<int16_t>(Set<uint32_t>(0xFFFF0000));
+        const Vec<int16_t> turned = Reverse2(y) ^ BitCast<int16_t>(Set<uint32_t>(0xFFFF0000));
         const Vec<uint32_t> real = sums(x.x, y), imaginary = sums(x.x, turned) + x.imaginary;
         return Part::join({Part::above(numbers<0>(real) * x.scale[0]), Part::above(numbers<0>(imaginary) * x.scale[0]),
                            Part::above(numbers<1>(real) * x.scale[1]),
@@ -119,7 +119,7 @@ struct ComplexQuotient<int16_t> : Quotient {
 
 private:
     static PXL_INLINE Vec<uint32_t> sums(Vec<int16_t> x, Vec<int16_t> y) {
-        return BitCast<uint32_t>(MulPairsAdd(x, y));
+        return BitCast<uint32_t>(WidenMulPairwiseAdd(x, y));
     }
     template <int K>
     static PXL_INLINE Vec<double> numbers(Vec<uint32_t> sum) {

@@ -7,6 +7,7 @@
 // and x up to 255 for 8u.)
 #include "arith/quotients.h"
 #include "frame/checks.h"
+#include "frame/ranges.h"
 
 namespace pxl::PXL_TARGET::arith {
 namespace {
@@ -52,10 +53,8 @@ template <class T, int Mode>
 struct RoundBy {
     template <class Real>
     PXL_INLINE auto operator()(Vec<Real> q) const {
-        constexpr int smallest = std::is_signed_v<T> ? -32768 : 0;
-        constexpr int largest = sizeof(T) == 1 ? 255 : std::is_signed_v<T> ? 32767 : 65535;
-        Vec<Real> limited = AtMost(largest, q);
-        if constexpr (smallest < 0) limited = AtLeast(smallest, limited);
+        Vec<Real> limited = AtMost(highestOf<T>, q);
+        if constexpr (std::is_signed_v<T>) limited = AtLeast(lowestOf<T>, limited);
         return roundTo<T>(std::integral_constant<int, Mode>{}, limited);
     }
 };

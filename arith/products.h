@@ -20,11 +20,9 @@ struct FloatProduct {
 template <class Narrow>
 PXL_INLINE Vec<uint8_t> productOf(Vec<uint8_t> a, Vec<uint8_t> b, Narrow&& narrow) {
     const Vec<uint8_t> zero = Zero<uint8_t>();
-    const auto lower =
-        BitCast<uint16_t>(InterleaveLowerBlocks(a, zero)) * BitCast<uint16_t>(InterleaveLowerBlocks(b, zero));
-    const auto upper =
-        BitCast<uint16_t>(InterleaveUpperBlocks(a, zero)) * BitCast<uint16_t>(InterleaveUpperBlocks(b, zero));
-    return DemoteBlocks<uint8_t>(narrow(lower), narrow(upper));
+    const auto lower = BitCast<uint16_t>(InterleaveLower(a, zero)) * BitCast<uint16_t>(InterleaveLower(b, zero));
+    const auto upper = BitCast<uint16_t>(InterleaveUpper(a, zero)) * BitCast<uint16_t>(InterleaveUpper(b, zero));
+    return ReorderDemote2To<uint8_t>(narrow(lower), narrow(upper));
 }
 
 // ---- 16u, 16s -------------------------------------------------------------------------------------------------------
@@ -41,9 +39,9 @@ template <class Narrow>
 PXL_INLINE Vec<int16_t> productOf(Vec<int16_t> a, Vec<int16_t> b, Narrow&& narrow) {
     const Halves<int16_t> p(a, b);
     const Vec<int16_t> low = BitCast<int16_t>(p.low);
-    const auto lower = BitCast<int32_t>(InterleaveLowerBlocks(low, p.high));
-    const auto upper = BitCast<int32_t>(InterleaveUpperBlocks(low, p.high));
-    return DemoteBlocks<int16_t>(narrow(lower), narrow(upper));
+    const auto lower = BitCast<int32_t>(InterleaveLower(low, p.high));
+    const auto upper = BitCast<int32_t>(InterleaveUpper(low, p.high));
+    return ReorderDemote2To<int16_t>(narrow(lower), narrow(upper));
 }
 
 // ---- scaleFactor 0 --------------------------------------------------------------------------------------------------
@@ -133,7 +131,7 @@ struct NormalisedProduct {
     // The carry of h + l + 1 is the highest bit of their average.
     PXL_INLINE Vec<uint16_t> operator()(Vec<uint16_t> a, Vec<uint16_t> b) const {
         const Halves<uint16_t> p(a, b);
-        return p.high + ShiftRight<15>(Average(p.high, p.low));
+        return p.high + ShiftRight<15>(AverageRound(p.high, p.low));
     }
 };
 

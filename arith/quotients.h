@@ -6,8 +6,7 @@
 #pragma once
 
 #include "arith/division.h"
-#include "frame/vec_arith.h"
-#include "frame/vec_divide.h"
+#include "arith/fields.h"
 
 namespace pxl::PXL_TARGET::arith {
 
@@ -137,7 +136,7 @@ struct ShortQuotient : Quotient {
         const auto round = [](Vec<float> q) { return NearestInt(q + Set<float>(32768)); };
         const Vec<int32_t> lower = round(dividend.lower / x.number.lower),
                            upper = round(dividend.upper / x.number.upper);
-        return BitCast<int16_t>(DemoteBlocks<uint16_t>(lower, upper) ^ Set<uint16_t>(0x8000));
+        return BitCast<int16_t>(ReorderDemote2To<uint16_t>(lower, upper) ^ Set<uint16_t>(0x8000));
     }
 };
 
@@ -168,7 +167,7 @@ struct WordQuotient : Quotient {
         const Vec<int32_t> upper = NearestInt(dividend.upper / x.number.upper);
         const Vec<uint16_t> beyond = SaturatedSub(y, x.half); // 1 and x at the two places
         const Vec<uint16_t> down = beyond == Set<uint16_t>(1), up = beyond == x.x;
-        const Vec<uint16_t> quotients = DemoteBlocks<uint16_t>(lower, upper) + (x.close & (down - up));
+        const Vec<uint16_t> quotients = ReorderDemote2To<uint16_t>(lower, upper) + (x.close & (down - up));
         return quotients | AndNot(up, x.zero); // x = 0 has come to 0, and is `up` for y = 0
     }
 };

@@ -1,7 +1,7 @@
 // Shifts of every element by one count per channel. Counts from the element's width up give 0, or the sign for right shifts of
 // signed types. Checks come in the order pointers, steps, size.
+#include "arith/lane_shifts.h"
 #include "frame/checks.h"
-#include "frame/vec_shift.h"
 #include "pointwise/run.h"
 
 namespace pxl::PXL_TARGET::arith {

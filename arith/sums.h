@@ -38,7 +38,7 @@ struct HalfSum {
     template <class L>
     requires std::is_unsigned_v<L> PXL_INLINE Vec<L>
     operator()(Vec<L> a, Vec<L> b) const {
-        const Vec<L> up = Average(a, b);
+        const Vec<L> up = AverageRound(a, b);
         return up - ((a ^ b) & up & Set<L>(1));
     }
     PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> a, Vec<int16_t> b) const {
@@ -57,7 +57,7 @@ struct ShiftedSum {
     explicit ShiftedSum(int scaleFactor) : shift(scaleFactor - 1) {}
 
     PXL_INLINE Vec<L> operator()(Vec<L> a, Vec<L> b) const {
-        const Vec<L> up = Average(a, b);
+        const Vec<L> up = AverageRound(a, b);
         return shift.apply(up, AndNot(a ^ b, shift.quotient(up)));
     }
 };
@@ -71,9 +71,9 @@ struct ShiftedSum16s {
         : signs(BitCast<int16_t>(Set<uint32_t>(difference ? 0xFFFF0001 : 0x00010001))), shift(scaleFactor) {}
 
     PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> a, Vec<int16_t> b) const {
-        const Vec<int32_t> lower = MulPairsAdd(InterleaveLowerBlocks(a, b), signs);
-        const Vec<int32_t> upper = MulPairsAdd(InterleaveUpperBlocks(a, b), signs);
-        return DemoteBlocks<int16_t>(shift(lower), shift(upper));
+        const Vec<int32_t> lower = WidenMulPairwiseAdd(InterleaveLower(a, b), signs);
+        const Vec<int32_t> upper = WidenMulPairwiseAdd(InterleaveUpper(a, b), signs);
+        return ReorderDemote2To<int16_t>(shift(lower), shift(upper));
     }
 };
 

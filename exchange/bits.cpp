@@ -1,28 +1,24 @@
 // One-bit images: eight pixels per byte, the first in the most significant bit, rows that start at any bit. Unpacking
 // writes 255 or 0; packing dithers, see exchange/diffusion.h.
+#include "exchange/bit_vectors.h"
 #include "exchange/diffusion.h"
 #include "frame/checks.h"
 #include "frame/memory.h"
-#include "frame/vec.h"
-#include "frame/vec_bits.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 namespace {
 
-// The bytes of a region of bits, as an operand of whole bytes.
+// Rows of bits: the bytes that hold them.
 template <class T>
-struct BitRegion {
-    Operand<T> bytes;
-    int bit;             // where a row starts in its first byte
+struct Bits {
+    Image<T> bytes;
+    int first;           // bit of the first byte, where a row starts
     ptrdiff_t byteCount; // of a row
 
-    BitRegion(T* base, int step, int bitOffset, int width)
-        : bytes(operand(base + bitOffset / 8, step)), bit(bitOffset % 8), byteCount((bit + ptrdiff_t{width} + 7) / 8) {}
-
-    T* row(ptrdiff_t y) const { return bytes.at(0, y); }
-    Extent extent(ptrdiff_t height) const { return extentOf(bytes, byteCount, height); }
+    Bits(Image<T> image, int offset, int width)
+        : bytes(startingAt(image, offset / 8, 0)), first(offset % 8), byteCount((first + ptrdiff_t{width} + 7) / 8) {}
 };
 
 inline uint8_t unpackBit(const uint8_t* bits, ptrdiff_t index) {
@@ -34,12 +30,9 @@ PXL_INLINE Vec<uint8_t> unpackVector(uint64_t bits) { return ExpandBits<0>(__bui
 
 PXL_INLINE void unpack64(uint64_t bits, uint8_t* d) {
     const uint64_t bytes = __builtin_bswap64(bits);
-    StoreU(ExpandBits<0>(bytes), d);
-    StoreU(ExpandBits<1>(bytes), d + vecBytes);
-    if constexpr (!isAvx2) {
-        StoreU(ExpandBits<2>(bytes), d + 2 * vecBytes);
-        StoreU(ExpandBits<3>(bytes), d + 3 * vecBytes);
-    }
+    unrolled<64 / vecBytes>([&](auto part) __attribute__((always_inline)) {
+        StoreU(ExpandBits<part>(bytes), d + part * vecBytes);
+    });
 }
 
 // n < 64; the last vector overlaps the one before it.
@@ -56,22 +49,18 @@ void unpackRow(ptrdiff_t n, const uint8_t* s, int bit, uint8_t* d) {
     unpack64(load64Bits(s + last / 8, static_cast<int>(last % 8)), d + n - 64);
 }
 
-PxlStatus ownUnpackBits(const uint8_t* src, int srcStep, int srcBitOffset, uint8_t* dst, int dstStep, ImageSize roi) {
-    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (anyStepBelow1(srcStep, dstStep)) return PXL_E_STEP;
-    if (srcBitOffset < 0) return PXL_E_SIZE;
-    const BitRegion<const uint8_t> bits(src, srcStep, srcBitOffset, roi.width);
-    const Operand<uint8_t> pixels = operand(dst, dstStep);
+PxlStatus unpackBits(Image<const uint8_t> src, int srcBitOffset, Image<uint8_t> dst, ImageSize roi) {
+    if (const PxlStatus status =
+            check(null(src, dst), size(roi), steps(src, dst), refuse(srcBitOffset < 0, PXL_E_SIZE)))
+        return status;
+    const Bits bits(src, srcBitOffset, roi.width);
     for (ptrdiff_t y = 0; y < roi.height; ++y) {
-        const uint8_t* s = bits.row(y);
-        uint8_t* d = pixels.at(0, y);
-        const Extent written{reinterpret_cast<const char*>(d), reinterpret_cast<const char*>(d + roi.width)};
-        const Extent read{reinterpret_cast<const char*>(s), reinterpret_cast<const char*>(s + bits.byteCount)};
-        if (!read.meets(written)) {
-            unpackRow(roi.width, s, bits.bit, d);
+        const auto s = rowOf(bits.bytes, y);
+        const auto d = rowOf(dst, y);
+        if (!extentOf(s, bits.byteCount, 1).meets(extentOf(d, roi.width, 1))) {
+            unpackRow(roi.width, s.base, bits.first, d.base);
         } else {
-            for (ptrdiff_t x = 0; x < roi.width; ++x) d[x] = unpackBit(s, bits.bit + x);
+            for (ptrdiff_t x = 0; x < roi.width; ++x) d.base[x] = unpackBit(s.base, bits.first + x);
         }
     }
     return PXL_OK;
@@ -79,16 +68,15 @@ PxlStatus ownUnpackBits(const uint8_t* src, int srcStep, int srcBitOffset, uint8
 
 // Where the operands share memory, pixels are read while bits are written: row by row. Narrow regions would spend their
 // time on getting the wavefront going.
-inline ptrdiff_t rowsPerBand(const Operand<const uint8_t>& src, const BitRegion<uint8_t>& dst, ImageSize roi) {
+inline ptrdiff_t rowsPerBand(Image<const uint8_t> src, const Bits<uint8_t>& dst, ImageSize roi) {
     constexpr int worthwhile = 32;
-    if (roi.width < worthwhile || extentOf(src, roi.width, roi.height).meets(dst.extent(roi.height))) return 1;
-    return bandRows;
+    const Extent written = extentOf(dst.bytes, dst.byteCount, roi.height);
+    return roi.width < worthwhile || extentOf(src, roi.width, roi.height).meets(written) ? 1 : bandRows;
 }
 
-PxlStatus ownDitherToBits(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, int dstBitOffset, ImageSize roi,
-                          uint8_t threshold) {
-    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi) || dstBitOffset < 0) return PXL_E_SIZE;
+PxlStatus ditherToBits(Image<const uint8_t> src, Image<uint8_t> dst, int dstBitOffset, ImageSize roi,
+                       uint8_t threshold) {
+    if (const PxlStatus status = check(null(src, dst), size(roi), refuse(dstBitOffset < 0, PXL_E_SIZE))) return status;
     // One row of errors, with room on its left; the bits of a band take less than the other two rows.
     const ptrdiff_t row = ptrdiff_t{roi.width} + 4;
     const ptrdiff_t count = 3 * row + 12;
@@ -98,23 +86,22 @@ PxlStatus ownDitherToBits(const uint8_t* src, int srcStep, uint8_t* dst, int dst
     int32_t* carried = scratch.get() + 4;
     const Streams streams(scratch.get() + row, roi.width);
 
-    const Operand<const uint8_t> pixels = operand(src, srcStep);
-    const BitRegion<uint8_t> bits(dst, dstStep, dstBitOffset, roi.width);
+    const Bits bits(dst, dstBitOffset, roi.width);
     const int32_t level = threshold << fraction;
-    const ptrdiff_t most = rowsPerBand(pixels, bits, roi);
+    const ptrdiff_t most = rowsPerBand(src, bits, roi);
     for (ptrdiff_t y = 0; y < roi.height; y += most) {
         const ptrdiff_t rows = roi.height - y < most ? roi.height - y : most;
         if (rows == 1) {
-            ditherRow(roi.width, pixels.at(0, y), level, carried, bits.row(y), bits.bit);
+            ditherRow(roi.width, src.at(0, y), level, carried, bits.bytes.at(0, y), bits.first);
             continue;
         }
-        ditherBand(roi.width, pixels, y, rows, level, carried, streams);
-        for (int r = 0; r < rows; ++r) copyBits(streams, r, bits.row(y + r), bits.bit, roi.width);
+        ditherBand(roi.width, src, y, rows, level, carried, streams);
+        for (int r = 0; r < rows; ++r) copyBits(streams, r, bits.bytes.at(0, y + r), bits.first, roi.width);
     }
     return PXL_OK;
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange
 
 #include "members/exchange/bits.inc"

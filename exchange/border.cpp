@@ -8,13 +8,12 @@
 // other because the step is small, the plain loop over pixels defines the result. In place the source lies inside the
 // destination and is not moved.
 #include "frame/checks.h"
-#include "frame/vec.h"
-#include "frame/vec_mask.h"
-#include "frame/vec_pattern.h"
+#include "frame/vec/memory.h"
+#include "frame/vec/pattern.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 namespace {
 
 struct Borders {
@@ -34,11 +33,9 @@ struct Borders {
     bool isInside(ptrdiff_t x, ptrdiff_t y) const { return x >= 0 && x < width && y >= 0 && y < height; }
 };
 
-using Source = Operand<const uint8_t>;
-using Destination = Operand<uint8_t>;
-
-Source readable(const Destination& o) { return {o.base, o.step, o.pixelBytes}; }
-Destination moved(const Destination& o, ptrdiff_t x, ptrdiff_t y) { return {o.at(x, y), o.step, o.pixelBytes}; }
+// Pixels of any size, in bytes.
+using Source = Image<const uint8_t, anyElements>;
+using Destination = Image<uint8_t, anyElements>;
 
 // What differs with the layout of pixels: the bytes of a pixel that are processed, and how a run of pixels is copied
 // that does not overlap its copy.
@@ -48,7 +45,8 @@ struct Layout {
     CopyRun* copyRun;
 };
 
-// Some rows of the source, and where the first pixel of each goes in the destination: in place they are the same.
+// Some rows of the source, and where the first pixel of each goes in the destination: in place they are the same. Handed on
+// in memory: the loops over rows need the registers.
 struct Rows {
     Source src;
     Destination dst;
@@ -60,17 +58,7 @@ using MakeRows = void(const Rows& rows, const Borders& b, const void* pattern);
 
 // ---- runs of pixels -------------------------------------------------------------------------------------------------
 
-// Short rows in line: the call would cost as much as the copy. The last register may overlap the one before.
-PXL_INLINE void copyBytesInline(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
-    if (bytes < vecBytes) return copyFew<vecBytes>(d, s, static_cast<size_t>(bytes));
-    if (bytes > 8 * vecBytes) {
-        std::memcpy(d, s, static_cast<size_t>(bytes));
-        return;
-    }
-    for (ptrdiff_t o = 0; o < bytes - vecBytes; o += vecBytes) StoreU(LoadU(s + o), d + o);
-    StoreU(LoadU(s + bytes - vecBytes), d + bytes - vecBytes);
-}
-void copyBytes(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) { copyBytesInline(s, d, bytes); }
+void copyRun(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) { copyRow(s, d, bytes); }
 
 // AC4 pixels. The last one is copied alone, since its source need not have a fourth element; those before it in vectors
 // and then in pieces, the largest first.
@@ -79,24 +67,16 @@ void copyColours(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     const Vec<uint8_t> alpha = alphaPattern<Bytes>().v[0];
     const ptrdiff_t last = bytes - Bytes;
     ptrdiff_t o = 0;
-    for (; o + vecBytes <= last; o += vecBytes) StoreU(blend(alpha, LoadU(d + o), LoadU(s + o)), d + o);
+    for (; o + vecBytes <= last; o += vecBytes) StoreU(IfThenElse(alpha, LoadU(d + o), LoadU(s + o)), d + o);
     const auto copyPiece = [&](auto size) __attribute__((always_inline)) {
         if (!(last & size)) return;
-        storePiece<size>(blend(headOf(ints(alpha)), loadPiece<size>(d + o), loadPiece<size>(s + o)), d + o);
+        StoreBlock<size>(IfThenElse(headOf(alpha), LoadBlock<size>(d + o), LoadBlock<size>(s + o)), d + o);
         o += size;
     };
     if constexpr (vecBytes > 16) copyPiece(std::integral_constant<int, 16>{});
     if constexpr (Bytes <= 8) copyPiece(std::integral_constant<int, 8>{});
     if constexpr (Bytes <= 4) copyPiece(std::integral_constant<int, 4>{});
-    storePiece<colourBytes<Bytes>>(loadPiece<colourBytes<Bytes>>(s + last), d + last);
-}
-
-template <int Bytes, int Processed>
-PXL_INLINE Pattern<Bytes> pixelPattern(const uint8_t* pixel) {
-    if constexpr (Bytes == Processed)
-        return patternOf<Bytes>(pixel);
-    else
-        return colourPattern<Bytes>(pixel);
+    StoreBlock<colourBytes<Bytes>>(LoadBlock<colourBytes<Bytes>>(s + last), d + last);
 }
 
 template <int Bytes, int Processed>
@@ -111,7 +91,7 @@ template <int Bytes, int Processed>
 PXL_INLINE void copySource(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     if (s == d) return;
     if constexpr (Bytes == Processed)
-        copyBytesInline(s, d, bytes);
+        copyRow(s, d, bytes);
     else
         copyColours<Bytes>(s, d, bytes);
 }
@@ -157,12 +137,12 @@ void makeWrapRows(const Rows& rows, const Borders& b, const void*) {
         copySource<Bytes, Bytes>(rows.src.at(0, y), begin, width);
         for (ptrdiff_t rest = b.right() * Bytes, period = width, n; rest > 0; rest -= n, period *= 2, end += n) {
             n = rest < period ? rest : period;
-            copyBytes(end - period, end, n);
+            copyRun(end - period, end, n);
         }
         for (ptrdiff_t rest = b.left * Bytes, period = width, n; rest > 0; rest -= n, period *= 2) {
             n = rest < period ? rest : period;
             begin -= n;
-            copyBytes(begin + period, begin, n);
+            copyRun(begin + period, begin, n);
         }
     }
 }
@@ -196,11 +176,11 @@ void extendByConstant(const Source& src, const Destination& dst, const Borders& 
     Borders none = b; // of rows that are all margin
     none.left = none.width = 0;
     const auto fillRows = [&](ptrdiff_t y, ptrdiff_t end) {
-        const Destination rows = moved(dst, 0, y);
-        makeRows({readable(rows), rows, end - y}, none, pattern);
+        const Destination rows = startingAt(dst, 0, y);
+        makeRows({rows, rows, end - y}, none, pattern);
     };
     fillRows(0, b.top);
-    makeRows({src, moved(dst, b.left, b.top), b.height}, b, pattern);
+    makeRows({src, startingAt(dst, b.left, b.top), b.height}, b, pattern);
     fillRows(b.top + b.height, b.outHeight);
 }
 
@@ -212,11 +192,11 @@ ptrdiff_t periodic(ptrdiff_t x, ptrdiff_t size) { return x % size + (x % size < 
 
 // The rows above and below the source, copied from the others.
 void copyMarginRows(const Destination& dst, const Borders& b, const Layout& layout, Map* map) {
-    const auto copyRow = [&](ptrdiff_t y) {
+    const auto copyMargin = [&](ptrdiff_t y) {
         layout.copyRun(dst.at(0, b.top + map(y - b.top, b.height)), dst.at(0, y), b.outWidth * dst.pixelBytes);
     };
-    for (ptrdiff_t y = 0; y < b.top; ++y) copyRow(y);
-    for (ptrdiff_t y = b.top + b.height; y < b.outHeight; ++y) copyRow(y);
+    for (ptrdiff_t y = 0; y < b.top; ++y) copyMargin(y);
+    for (ptrdiff_t y = b.top + b.height; y < b.outHeight; ++y) copyMargin(y);
 }
 
 void extend(const Source& src, const Destination& dst, const Borders& b, const Layout& layout, MakeRows* makeRows,
@@ -224,106 +204,84 @@ void extend(const Source& src, const Destination& dst, const Borders& b, const L
     if (!allApart(src, dst, b))
         return extendPlainly(dst, b, layout.processed,
                              [&](ptrdiff_t x, ptrdiff_t y) { return src.at(map(x, b.width), map(y, b.height)); });
-    makeRows({src, moved(dst, b.left, b.top), b.height}, b, nullptr);
+    makeRows({src, startingAt(dst, b.left, b.top), b.height}, b, nullptr);
     copyMarginRows(dst, b, layout, map);
 }
 
 void extendInPlace(const Destination& inside, const Borders& b, const Layout& layout, MakeRows* makeRows, Map* map) {
-    const Destination dst = moved(inside, -b.left, -b.top);
+    const Destination dst = startingAt(inside, -b.left, -b.top);
     if (!rowsApart(dst, b))
         return extendPlainly(dst, b, layout.processed, [&](ptrdiff_t x, ptrdiff_t y) {
             return b.isInside(x, y) ? nullptr : inside.at(map(x, b.width), map(y, b.height));
         });
-    makeRows({readable(inside), inside, b.height}, b, nullptr);
+    makeRows({inside, inside, b.height}, b, nullptr);
     copyMarginRows(dst, b, layout, map);
 }
 
 // ---- families -------------------------------------------------------------------------------------------------------
 
-template <class T, int Elements, int Channels>
-struct Form {
-    static constexpr int bytes = Elements * sizeof(T); // of a pixel
-    static constexpr int processed = Channels * sizeof(T);
-
-    static Layout layout() {
-        if constexpr (Elements == Channels)
-            return {processed, copyBytes};
-        else
-            return {processed, copyColours<bytes>};
-    }
-    static Source source(const T* p, int step) { return operand(reinterpret_cast<const uint8_t*>(p), step, bytes); }
-    static Destination destination(T* p, int step) { return operand(reinterpret_cast<uint8_t*>(p), step, bytes); }
-};
-
-PxlStatus check(const void* src, int srcStep, const void* dst, int dstStep, const Borders& b) {
-    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
-    if (anyStepBelow1(srcStep, dstStep)) return PXL_E_STEP;
-    return b.isValid() ? PXL_OK : PXL_E_SIZE;
+template <int Bytes, int Processed>
+Layout layoutOf(Image<uint8_t, Bytes, Processed>) {
+    if constexpr (Bytes == Processed)
+        return {Processed, copyRun};
+    else
+        return {Processed, copyColours<Bytes>};
 }
 
+Check fits(const Borders& b) { return refuse(!b.isValid(), PXL_E_SIZE); }
+
 template <class T, int Elements, int Channels>
-PxlStatus CopyConstBorder(const T* src, int srcStep, ImageSize srcSize, T* dst, int dstStep, ImageSize dstSize,
-                          int borderTop, int borderLeft, const T* value) {
-    using F = Form<T, Elements, Channels>;
+PxlStatus copyConstBorder(Image<const T, Elements, Channels> src, ImageSize srcSize, Image<T, Elements, Channels> dst,
+                          ImageSize dstSize, int borderTop, int borderLeft, Values<T, Channels> value) {
     const Borders b(srcSize, dstSize, borderTop, borderLeft);
-    if (const PxlStatus status = check(src, srcStep, dst, dstStep, b)) return status;
-    if (anyNull(value)) return PXL_E_NULL_PTR;
-    T pixel[Elements] = {}; // a copy, since the destination may overlap the values
-    for (int c = 0; c < Channels; ++c) pixel[c] = load1(value + c);
-    const Pattern<F::bytes> pattern = patternOf<F::bytes>(pixel);
-    extendByConstant(F::source(src, srcStep), F::destination(dst, dstStep), b, F::layout(),
-                     makeConstRows<F::bytes, F::processed>, &pattern, reinterpret_cast<const uint8_t*>(pixel));
+    if (const PxlStatus status = check(null(src, dst), steps(src, dst), fits(b), null(value))) return status;
+    constexpr int bytes = Elements * sizeof(T), processed = Channels * sizeof(T);
+    uint8_t pixel[bytes] = {}; // a copy, since the destination may overlap the values
+    std::memcpy(pixel, value.base, processed);
+    const Pattern<bytes> pattern = patternOf<bytes>(pixel);
+    extendByConstant(bytesOf(src), bytesOf(dst), b, layoutOf(bytesOf(dst)), makeConstRows<bytes, processed>, &pattern,
+                     pixel);
     return PXL_OK;
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus CopyConstBorder(const T* src, int srcStep, ImageSize srcSize, T* dst, int dstStep, ImageSize dstSize,
-                          int borderTop, int borderLeft, T value) {
-    return CopyConstBorder<T, Elements, Channels>(src, srcStep, srcSize, dst, dstStep, dstSize, borderTop, borderLeft,
-                                                  &value);
-}
-
-template <class T, int Elements, int Channels>
-PxlStatus CopyReplicateBorder(const T* src, int srcStep, ImageSize srcSize, T* dst, int dstStep, ImageSize dstSize,
-                              int borderTop, int borderLeft) {
-    using F = Form<T, Elements, Channels>;
+PxlStatus copyReplicateBorder(Image<const T, Elements, Channels> src, ImageSize srcSize,
+                              Image<T, Elements, Channels> dst, ImageSize dstSize, int borderTop, int borderLeft) {
     const Borders b(srcSize, dstSize, borderTop, borderLeft);
-    if (const PxlStatus status = check(src, srcStep, dst, dstStep, b)) return status;
-    extend(F::source(src, srcStep), F::destination(dst, dstStep), b, F::layout(),
-           makeReplicateRows<F::bytes, F::processed>, nearest);
+    if (const PxlStatus status = check(null(src, dst), steps(src, dst), fits(b))) return status;
+    extend(bytesOf(src), bytesOf(dst), b, layoutOf(bytesOf(dst)),
+           makeReplicateRows<Elements * sizeof(T), Channels * sizeof(T)>, nearest);
     return PXL_OK;
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus ReplicateBorderInPlace(T* src, int step, ImageSize srcSize, ImageSize dstSize, int borderTop,
-                                 int borderLeft) {
-    using F = Form<T, Elements, Channels>;
+PxlStatus replicateBorderInPlace(Image<T, Elements, Channels> inside, ImageSize srcSize, ImageSize dstSize,
+                                 int borderTop, int borderLeft) {
     const Borders b(srcSize, dstSize, borderTop, borderLeft);
-    if (const PxlStatus status = check(src, step, src, step, b)) return status;
-    extendInPlace(F::destination(src, step), b, F::layout(), makeReplicateRows<F::bytes, F::processed>, nearest);
+    if (const PxlStatus status = check(null(inside), steps(inside), fits(b))) return status;
+    extendInPlace(bytesOf(inside), b, layoutOf(bytesOf(inside)),
+                  makeReplicateRows<Elements * sizeof(T), Channels * sizeof(T)>, nearest);
     return PXL_OK;
 }
 
 template <class T>
-PxlStatus CopyWrapBorder(const T* src, int srcStep, ImageSize srcSize, T* dst, int dstStep, ImageSize dstSize,
-                         int borderTop, int borderLeft) {
-    using F = Form<T, 1, 1>;
+PxlStatus copyWrapBorder(Image<const T> src, ImageSize srcSize, Image<T> dst, ImageSize dstSize, int borderTop,
+                         int borderLeft) {
     const Borders b(srcSize, dstSize, borderTop, borderLeft);
-    if (const PxlStatus status = check(src, srcStep, dst, dstStep, b)) return status;
-    extend(F::source(src, srcStep), F::destination(dst, dstStep), b, F::layout(), makeWrapRows<F::bytes>, periodic);
+    if (const PxlStatus status = check(null(src, dst), steps(src, dst), fits(b))) return status;
+    extend(bytesOf(src), bytesOf(dst), b, layoutOf(bytesOf(dst)), makeWrapRows<sizeof(T)>, periodic);
     return PXL_OK;
 }
 
 template <class T>
-PxlStatus WrapBorderInPlace(T* src, int step, ImageSize srcSize, ImageSize dstSize, int borderTop, int borderLeft) {
-    using F = Form<T, 1, 1>;
+PxlStatus wrapBorderInPlace(Image<T> inside, ImageSize srcSize, ImageSize dstSize, int borderTop, int borderLeft) {
     const Borders b(srcSize, dstSize, borderTop, borderLeft);
-    if (const PxlStatus status = check(src, step, src, step, b)) return status;
-    extendInPlace(F::destination(src, step), b, F::layout(), makeWrapRows<F::bytes>, periodic);
+    if (const PxlStatus status = check(null(inside), steps(inside), fits(b))) return status;
+    extendInPlace(bytesOf(inside), b, layoutOf(bytesOf(inside)), makeWrapRows<sizeof(T)>, periodic);
     return PXL_OK;
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange
 
 #include "members/exchange/border.inc"

@@ -7,11 +7,10 @@
 // and NaN gives 0. The lower bound needs no operation of its own: what lies below the range of 32s converts to its
 // minimum, and narrowing saturates. That minimum is what NaN converts to as well, which is the wanted 0 for unsigned
 // destinations.
-#include <limits>
-
+#include "pointwise/convert.h"
 #include "exchange/rounding.h"
 #include "frame/checks.h"
-#include "pointwise/convert.h"
+#include "frame/ranges.h"
 
 namespace pxl::PXL_TARGET::exchange {
 namespace {
@@ -25,7 +24,7 @@ struct KeepValue {
 
     PXL_INLINE Vec<Lane> operator()(Vec<S> v) const {
         if constexpr (sizeof(S) < sizeof(D))
-            return PromoteFirst<D>(v);
+            return PromoteTo<D>(v);
         else if constexpr (std::is_same_v<S, uint16_t>)
             return BitCast<Lane>(Min255(v)); // narrowing takes its lanes for signed ones
         else
@@ -34,16 +33,13 @@ struct KeepValue {
 };
 
 template <class D>
-inline constexpr float maximumOf = std::numeric_limits<D>::max();
-
-template <class D>
 struct RoundToNearest {
     using Source = float;
     using Result = D;
     using Lane = int32_t;
 
     PXL_INLINE Vec<int32_t> operator()(Vec<float> v) const {
-        const Vec<float> maximum = Set<float>(maximumOf<D>);
+        const Vec<float> maximum = Set<float>(highestOf<D>);
         if constexpr (std::is_unsigned_v<D>) return NearestInt(Min(maximum, tiesToEven(v)));
         return NearestInt(Min(maximum, IfThenElseZero(roundsAwayFrom0(v), v)));
     }
@@ -59,7 +55,7 @@ struct Truncate {
     float bias;
 
     PXL_INLINE Vec<int32_t> operator()(Vec<float> v) const {
-        const Vec<float> bounded = Min(Set<float>(maximumOf<D>), v);
+        const Vec<float> bounded = Min(Set<float>(highestOf<D>), v);
         if constexpr (std::is_unsigned_v<D>) return TruncateToInt(bounded + Set<float>(bias));
         const Vec<float> signedBias = (v & Set<float>(-0.0f)) | Set<float>(bias);
         return TruncateToInt(IfThenElseZero(v == v, bounded + signedBias));

@@ -6,11 +6,12 @@
 #include "frame/checks.h"
 #include "frame/row_parts.h"
 #include "frame/streaming.h"
-#include "frame/vec_interleave.h"
+#include "frame/vec/channels.h"
+#include "frame/vec/partial.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 namespace {
 
 // ---- rows of a channel --------------------------------------------------------------------------------------------
@@ -24,15 +25,15 @@ template <int Channel>
 using ChannelOf = std::integral_constant<int, Channel>;
 
 template <class T, int N>
-PXL_INLINE void ownExtractChannelRow(ptrdiff_t n, const T* s, T* d) {
+PXL_INLINE void extractChannelRow(ptrdiff_t n, const T* s, T* d) {
     const auto channel = [&]<int P, int Channel>(Part<P>, ChannelOf<Channel>, ptrdiff_t x) {
         Vec<T> v[N];
         loadPixels<P>(s + x * N - Channel, v);
         return gatherChannel<Channel>(v);
     };
-    const auto part = [&]<int P>(Part<P> p, ptrdiff_t x) { StorePart<P>(channel(p, ChannelOf<0>{}, x), d + x); };
+    const auto part = [&]<int P>(Part<P> p, ptrdiff_t x) { StoreFirst<P>(channel(p, ChannelOf<0>{}, x), d + x); };
     const auto end = [&]<int P>(Part<P> p, ptrdiff_t x) {
-        return [v = channel(p, ChannelOf<N - 1>{}, x), at = d + x] { StorePart<P>(v, at); };
+        return [v = channel(p, ChannelOf<N - 1>{}, x), at = d + x] { StoreFirst<P>(v, at); };
     };
     if (rowByPartsAndEnd<lanes<T>, leastPart<T>>(n, part, end)) return;
     for (ptrdiff_t x = 0; x < n; ++x) store1(d + x, load1(s + x * N));
@@ -41,7 +42,7 @@ PXL_INLINE void ownExtractChannelRow(ptrdiff_t n, const T* s, T* d) {
 // source(Part<P>, ChannelOf<Channel>, x, vectors) gives P pixels from x on that hold the new values of the channel.
 // False, and nothing done, for very short rows.
 template <class T, int N, class Source>
-PXL_INLINE bool ownReplaceChannelRow(ptrdiff_t n, Source source, T* d) {
+PXL_INLINE bool replaceChannelRow(ptrdiff_t n, Source source, T* d) {
     const auto replaced = [&]<int P, int Channel>(Part<P> p, ChannelOf<Channel> c, ptrdiff_t x) {
         Vec<T> from[N];
         source(p, c, x, from);
@@ -61,101 +62,96 @@ PXL_INLINE bool ownReplaceChannelRow(ptrdiff_t n, Source source, T* d) {
 }
 
 template <class T, int N>
-PXL_INLINE void ownInsertChannelRow(ptrdiff_t n, const T* s, T* d) {
+PXL_INLINE void insertChannelRow(ptrdiff_t n, const T* s, T* d) {
     const auto spread = [&]<int P, int Channel>(Part<P>, ChannelOf<Channel>, ptrdiff_t x, Vec<T>(&v)[N]) {
-        spreadChannel<Channel>(LoadPart<P>(s + x), v);
+        spreadChannel<Channel>(LoadFirst<P>(s + x), v);
     };
-    if (ownReplaceChannelRow<T, N>(n, spread, d)) return;
+    if (replaceChannelRow<T, N>(n, spread, d)) return;
     for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x));
 }
 
 template <class T, int N>
-PXL_INLINE void ownMoveChannelRow(ptrdiff_t n, const T* s, T* d) {
+PXL_INLINE void moveChannelRow(ptrdiff_t n, const T* s, T* d) {
     const auto pixels = [&]<int P, int Channel>(Part<P>, ChannelOf<Channel>, ptrdiff_t x, Vec<T>(&v)[N]) {
         loadPixels<P>(s + x * N - Channel, v);
     };
-    if (ownReplaceChannelRow<T, N>(n, pixels, d)) return;
+    if (replaceChannelRow<T, N>(n, pixels, d)) return;
     for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x * N));
 }
 
 template <class T, int SrcElements, int DstElements>
-void ownCopyChannelRow(ptrdiff_t n, const T* s, T* d) {
-    if constexpr (SrcElements == DstElements) ownMoveChannelRow<T, SrcElements>(n, s, d);
-    if constexpr (SrcElements > DstElements) ownExtractChannelRow<T, SrcElements>(n, s, d);
-    if constexpr (SrcElements < DstElements) ownInsertChannelRow<T, DstElements>(n, s, d);
+void copyChannelRow(ptrdiff_t n, const T* s, T* d) {
+    if constexpr (SrcElements == DstElements) moveChannelRow<T, SrcElements>(n, s, d);
+    if constexpr (SrcElements > DstElements) extractChannelRow<T, SrcElements>(n, s, d);
+    if constexpr (SrcElements < DstElements) insertChannelRow<T, DstElements>(n, s, d);
 }
 
 // Whether two channels of the same pixels are addressed, which overlap nowhere though their rows do.
-template <int Elements, class T>
-bool areChannelsOfOneImage(const T* src, int srcStep, const T* dst, int dstStep) {
-    const ptrdiff_t apart = reinterpret_cast<const char*>(dst) - reinterpret_cast<const char*>(src);
+template <class T, int Elements>
+bool areChannelsOfOneImage(Image<const T, Elements, 1> src, Image<T, Elements, 1> dst) {
+    const ptrdiff_t apart = reinterpret_cast<const char*>(dst.base) - reinterpret_cast<const char*>(src.base);
     const ptrdiff_t bytes = sizeof(T);
-    return srcStep == dstStep && apart % bytes == 0 && -Elements * bytes < apart && apart < Elements * bytes;
+    return src.step == dst.step && apart % bytes == 0 && -dst.pixelBytes < apart && apart < dst.pixelBytes;
 }
 
 template <class T, int SrcElements, int DstElements>
-PxlStatus CopyChannel(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
-    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    const auto row = ownCopyChannelRow<T, SrcElements, DstElements>;
+PxlStatus copyChannel(Image<const T, SrcElements, 1> src, Image<T, DstElements, 1> dst, ImageSize roi) {
+    if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
+    const auto row = copyChannelRow<T, SrcElements, DstElements>;
     if constexpr (SrcElements == DstElements)
-        if (areChannelsOfOneImage<SrcElements>(src, srcStep, dst, dstStep)) {
-            const auto both = [&](ptrdiff_t n, T* d) { row(n, d + (src - dst), d); };
-            walk(roi, both, operand(dst, dstStep, DstElements));
+        if (areChannelsOfOneImage(src, dst)) {
+            const auto both = [&](ptrdiff_t n, T* d) { row(n, d + (src.base - dst.base), d); };
+            walk(roi, both, dst);
             return PXL_OK;
         }
-    walk(roi, row, operand(src, srcStep, SrcElements), operand(dst, dstStep, DstElements));
+    walk(roi, row, src, dst);
     return PXL_OK;
 }
 
 // ---- planes -------------------------------------------------------------------------------------------------------
 
-template <class T, int Planes>
-PXL_INLINE void splitPixels(ptrdiff_t n, const T* s, T* const (&d)[Planes]) {
+template <class T, int Count>
+PXL_INLINE void splitPixels(ptrdiff_t n, const T* s, T* const (&d)[Count]) {
     for (ptrdiff_t x = 0; x < n; ++x) {
-        T pixel[Planes];
-        std::memcpy(pixel, s + x * Planes, sizeof pixel);
-        for (int p = 0; p < Planes; ++p) store1(d[p] + x, pixel[p]);
+        T pixel[Count];
+        std::memcpy(pixel, s + x * Count, sizeof pixel);
+        for (int p = 0; p < Count; ++p) store1(d[p] + x, pixel[p]);
     }
 }
 
 // Lines are fetched so many parts of a row ahead of the stores.
 constexpr int fetchedParts = 8;
 
-template <int P, class T, int Planes>
-PXL_INLINE void splitPart(const T* s, T* const (&d)[Planes], ptrdiff_t x) {
-    Vec<T> v[Planes];
-    loadPixels<P>(s + x * Planes, v);
-    deinterleave(v);
+template <int P, class T, int Count>
+PXL_INLINE void splitPart(const T* s, T* const (&d)[Count], ptrdiff_t x) {
+    Vec<T> v[Count];
+    LoadInterleaved<P>(s + x * Count, v);
 #pragma GCC unroll 4
-    for (int p = 0; p < Planes; ++p) StorePart<P>(v[p], d[p] + x);
+    for (int p = 0; p < Count; ++p) StoreFirst<P>(v[p], d[p] + x);
 }
 
 // A line of each plane, so that no line waits half filled for the others: few can be on their way at a time.
-template <class T, int Planes>
-PXL_INLINE void streamSplitLines(const T* s, T* const (&d)[Planes], ptrdiff_t x) {
+template <class T, int Count>
+PXL_INLINE void streamSplitLines(const T* s, T* const (&d)[Count], ptrdiff_t x) {
     constexpr int most = lanes<T>;
     constexpr int parts = lineBytes / vecBytes;
-    Vec<T> v[parts][Planes];
+    Vec<T> v[parts][Count];
 #pragma GCC unroll 4
-    for (int i = 0; i < parts; ++i) {
-        loadPixels<most>(s + (x + i * most) * Planes, v[i]);
-        deinterleave(v[i]);
-    }
+    for (int i = 0; i < parts; ++i) LoadInterleaved<most>(s + (x + i * most) * Count, v[i]);
 #pragma GCC unroll 4
-    for (int p = 0; p < Planes; ++p)
+    for (int p = 0; p < Count; ++p)
 #pragma GCC unroll 4
         for (int i = 0; i < parts; ++i) Streamed::store(v[i][p], d[p] + x + i * most);
 }
 
-template <class T, int Planes>
-PXL_INLINE void fetchPlanes(T* const (&d)[Planes], ptrdiff_t x) {
+template <class T, int Count>
+PXL_INLINE void fetchPlanes(T* const (&d)[Count], ptrdiff_t x) {
 #pragma GCC unroll 4
-    for (int p = 0; p < Planes; ++p) fetchForStores<vecBytes>(d[p] + x);
+    for (int p = 0; p < Count; ++p) fetchForStores<vecBytes>(d[p] + x);
 }
 
-template <class T, int Planes>
-PXL_INLINE void ownSplitRow(ptrdiff_t n, const T* s, T* const (&d)[Planes], Storing storing) {
+template <class T, int Count>
+PXL_INLINE void splitRow(ptrdiff_t n, const T* s, T* const (&d)[Count], Storing storing) {
     constexpr int most = lanes<T>;
     constexpr int line = lineBytes / static_cast<int>(sizeof(T));
     ptrdiff_t x = 0;
@@ -166,76 +162,76 @@ PXL_INLINE void ownSplitRow(ptrdiff_t n, const T* s, T* const (&d)[Planes], Stor
             fetchPlanes(d, x + fetchedParts * most);
             splitPart<most>(s, d, x);
         }
-    const auto part = [&]<int P>(Part<P>, ptrdiff_t at) { splitPart<P>(s, d, at); };
+    const auto part = [&]<int P>(Part<P>, ptrdiff_t at) __attribute__((always_inline)) { splitPart<P>(s, d, at); };
     if (!rowByParts<most, leastPart<T>>(n, part, x)) splitPixels(n, s, d);
 }
 
-template <class T, int Planes>
-PXL_INLINE void mergePixels(ptrdiff_t n, const T* const (&s)[Planes], T* d) {
+template <class T, int Count>
+PXL_INLINE void mergePixels(ptrdiff_t n, const T* const (&s)[Count], T* d) {
     for (ptrdiff_t x = 0; x < n; ++x) {
-        T pixel[Planes];
-        for (int p = 0; p < Planes; ++p) pixel[p] = load1(s[p] + x);
-        std::memcpy(d + x * Planes, pixel, sizeof pixel);
+        T pixel[Count];
+        for (int p = 0; p < Count; ++p) pixel[p] = load1(s[p] + x);
+        std::memcpy(d + x * Count, pixel, sizeof pixel);
     }
 }
 
-template <class Stores, int P, class T, int Planes>
-PXL_INLINE void mergePart(const T* const (&s)[Planes], T* d, ptrdiff_t x) {
-    Vec<T> v[Planes];
+template <class Stores, int P, class T, int Count>
+PXL_INLINE void mergePart(const T* const (&s)[Count], T* d, ptrdiff_t x) {
+    Vec<T> v[Count];
 #pragma GCC unroll 4
-    for (int p = 0; p < Planes; ++p) v[p] = LoadPart<P>(s[p] + x);
-    interleave(v);
-    storePixels<P, Stores>(v, d + x * Planes);
+    for (int p = 0; p < Count; ++p) v[p] = LoadFirst<P>(s[p] + x);
+    StoreInterleaved<P, Stores>(v, d + x * Count);
 }
 
-template <class T, int Planes>
-PXL_INLINE void ownMergeRow(ptrdiff_t n, const T* const (&s)[Planes], T* d, Storing storing) {
+template <class T, int Count>
+PXL_INLINE void mergeRow(ptrdiff_t n, const T* const (&s)[Count], T* d, Storing storing) {
     constexpr int most = lanes<T>;
     ptrdiff_t x = 0;
     if (storing == Storing::Streamed)
         for (; x + most <= n; x += most) mergePart<Streamed, most>(s, d, x);
     if (storing == Storing::Fetched)
         for (; x + (fetchedParts + 1) * most <= n; x += most) {
-            fetchForStores<Planes * vecBytes>(d + (x + fetchedParts * most) * Planes);
+            fetchForStores<Count * vecBytes>(d + (x + fetchedParts * most) * Count);
             mergePart<Cached, most>(s, d, x);
         }
-    const auto part = [&]<int P>(Part<P>, ptrdiff_t at) { mergePart<Cached, P>(s, d, at); };
+    const auto part = [&]<int P>(Part<P>, ptrdiff_t at) __attribute__((always_inline)) {
+        mergePart<Cached, P>(s, d, at);
+    };
     if (!rowByParts<most, leastPart<T>>(n, part, x)) mergePixels(n, s, d);
 }
 
 // Walks an image of pixels and its planes. The kernel is also told how to store.
-template <class Kernel, class T, class Pixels, int... P>
-void walkPlanes(ImageSize roi, Kernel kernel, Operand<Pixels> pixels, T* const* planes, int step,
-                std::integer_sequence<int, P...>) {
-    const Storing storing = storingOf(roi.width, roi.height, pixels, operand(planes[P], step)...);
-    const auto row = [=](ptrdiff_t n, auto... p) { kernel(storing, n, p...); };
-    walk(roi, row, pixels, operand(planes[P], step)...);
-    finishStreamed(storing == Storing::Streamed);
+template <class Kernel, class Pixels, class T, int Count>
+void walkPlanes(ImageSize roi, Kernel kernel, Pixels pixels, Planes<T, Count> planes) {
+    const auto walkImages = [&](auto... plane) {
+        const Storing storing = storingOf(roi.width, roi.height, pixels, plane...);
+        const auto row = [=](ptrdiff_t n, auto... p) { kernel(storing, n, p...); };
+        walk(roi, row, pixels, plane...);
+        finishStreamed(storing == Storing::Streamed);
+    };
+    [&]<int... p>(std::integer_sequence<int, p...>) { walkImages(planes[p]...); }
+    (std::make_integer_sequence<int, Count>{});
 }
 
-template <class T, int Planes>
-PxlStatus Split(const T* src, int srcStep, T* const* dst, int dstStep, ImageSize roi) {
-    if (anyNull(src) || anyPlaneNull<Planes>(dst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
+template <class T, int Count>
+PxlStatus split(Image<const T, Count> src, Planes<T, Count> dst, ImageSize roi) {
+    if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
     const auto row = [](Storing storing, ptrdiff_t n, const T* s, auto... d) {
-        ownSplitRow<T, Planes>(n, s, {d...}, storing);
+        splitRow<T, Count>(n, s, {d...}, storing);
     };
-    walkPlanes(roi, row, operand(src, srcStep, Planes), dst, dstStep, std::make_integer_sequence<int, Planes>{});
+    walkPlanes(roi, row, src, dst);
     return PXL_OK;
 }
 
-template <class T, int Planes>
-PxlStatus Merge(const T* const* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
-    if (anyPlaneNull<Planes>(src) || anyNull(dst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    const auto row = [](Storing storing, ptrdiff_t n, T* d, auto... s) {
-        ownMergeRow<T, Planes>(n, {s...}, d, storing);
-    };
-    walkPlanes(roi, row, operand(dst, dstStep, Planes), src, srcStep, std::make_integer_sequence<int, Planes>{});
+template <class T, int Count>
+PxlStatus merge(Planes<const T, Count> src, Image<T, Count> dst, ImageSize roi) {
+    if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
+    const auto row = [](Storing storing, ptrdiff_t n, T* d, auto... s) { mergeRow<T, Count>(n, {s...}, d, storing); };
+    walkPlanes(roi, row, dst, src);
     return PXL_OK;
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange
 
 #include "members/exchange/copy_channels.inc"

@@ -4,53 +4,47 @@
 // the source need not end with a fourth element.
 #include "exchange/masked_row.h"
 #include "frame/checks.h"
-#include "frame/vec.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 namespace {
 
-using Row = void(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m);
-
-PxlStatus copyMasked(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roi, const uint8_t* mask,
-                     int maskStep, int pixelBytes, Row* row) {
-    if (anyNull(src, dst, mask)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    walk(roi, row, operand(src, srcStep, pixelBytes), operand(dst, dstStep, pixelBytes), operand(mask, maskStep));
-    return PXL_OK;
-}
-
 template <int E>
-void copyRow(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m) {
+void copyMaskedRow(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m) {
     blendRow<E>(n, m, d, RowSource{s});
 }
 
-template <class T, int Elements>
-PxlStatus CopyMasked(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const uint8_t* mask, int maskStep) {
-    constexpr int E = Elements * sizeof(T);
-    return copyMasked(reinterpret_cast<const uint8_t*>(src), srcStep, reinterpret_cast<uint8_t*>(dst), dstStep, roi,
-                      mask, maskStep, E, copyRow<E>);
-}
-
 template <int E>
-void copyColourRow(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m) {
+void copyMaskedColours(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m) {
     const ptrdiff_t last = (n - 1) * E;
     blendRow<E>(n - 1, m, d, RowSource{s}, alphaPattern<E>());
-    const Piece keep = widenMask<E>(zeroBytes(loadPiece<1>(m + n - 1)));
+    const Block keep = widenMask<E>(ZeroBytes(LoadBlock<1>(m + n - 1)));
     constexpr int colour = colourBytes<E>;
-    storePiece<colour>(blend(keep, loadPiece<colour>(d + last), loadPiece<colour>(s + last)), d + last);
+    StoreBlock<colour>(IfThenElse(keep, LoadBlock<colour>(d + last), LoadBlock<colour>(s + last)), d + last);
 }
 
-template <class T>
-PxlStatus CopyColourMasked(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const uint8_t* mask,
-                           int maskStep) {
-    constexpr int E = 4 * sizeof(T);
-    return copyMasked(reinterpret_cast<const uint8_t*>(src), srcStep, reinterpret_cast<uint8_t*>(dst), dstStep, roi,
-                      mask, maskStep, E, copyColourRow<E>);
+using Row = void(ptrdiff_t n, const uint8_t* s, uint8_t* d, const uint8_t* m);
+
+// One walk for pixels of every size.
+PxlStatus copyPixels(Image<const uint8_t, anyElements> src, Image<uint8_t, anyElements> dst, ImageSize roi,
+                     Image<const uint8_t> mask, Row* row) {
+    if (const PxlStatus status = check(null(src, dst, mask), size(roi))) return status;
+    walk(roi, row, src, dst, mask);
+    return PXL_OK;
+}
+
+template <class T, int Elements, int Channels>
+PxlStatus copyMasked(Image<const T, Elements, Channels> src, Image<T, Elements, Channels> dst, ImageSize roi,
+                     Image<const uint8_t> mask) {
+    constexpr int E = Elements * sizeof(T);
+    if constexpr (Channels == Elements)
+        return copyPixels(bytesOf(src), bytesOf(dst), roi, mask, copyMaskedRow<E>);
+    else
+        return copyPixels(bytesOf(src), bytesOf(dst), roi, mask, copyMaskedColours<E>);
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange
 
 #include "members/exchange/copy_masked.inc"

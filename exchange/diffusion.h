@@ -10,11 +10,11 @@
 // behind the one above.
 #pragma once
 
-#include "frame/vec.h"
-#include "frame/vec_bits.h"
+#include "exchange/bit_vectors.h"
+#include "frame/vec/convert.h"
 #include "frame/walk.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 
 inline constexpr int32_t fraction = 13;
 inline constexpr int32_t white = 255 << fraction;
@@ -39,6 +39,7 @@ inline void ditherRow(ptrdiff_t width, const uint8_t* s, int32_t level, int32_t*
 }
 
 inline constexpr int bandRows = lanes<int32_t>;
+static_assert(bandRows <= 8);       // the bits of a step fill a byte
 inline constexpr ptrdiff_t lag = 3; // 2 would do, but makes every step wait for the rows above
 inline constexpr ptrdiff_t lastLag = lag * (bandRows - 1);
 inline constexpr int stepsAtOnce = 16;
@@ -137,10 +138,8 @@ private:
 
     // All ones where a lane is inside its row.
     Vec<int32_t> inside(ptrdiff_t t) const {
-        alignas(vecBytes) static constexpr int32_t lags[] = {0,       lag,     2 * lag, 3 * lag,
-                                                             4 * lag, 5 * lag, 6 * lag, 7 * lag};
         const auto near = [](ptrdiff_t v) { return static_cast<int32_t>(v < -1 ? -1 : v > lastLag ? lastLag : v); };
-        const Vec<int32_t> delay = LoadU(lags);
+        const Vec<int32_t> delay = fromLanes<int32_t, [](int r) { return lag * r; }>();
         const Mask<int32_t> started = delay <= Set<int32_t>(near(t));
         return BitCast<int32_t>(started & (delay > Set<int32_t>(near(t - width_))));
     }
@@ -168,7 +167,7 @@ private:
         const Vec<int32_t> error8 = ShiftLeft<3>(error), error3 = error + error + error;
         shares.right = ShiftRight<4>(error8 - error);
         sendBelow<Inner>(shares, t, ShiftRight<4>(error3), ShiftRight<4>(error8 - error3), ShiftRight<4>(error));
-        return SignBits(set);
+        return BitsFromMask(set);
     }
 
     // Completes the share of the pixel below left, which the next lane needs lag - 1 steps later. The last lane's goes
@@ -180,9 +179,9 @@ private:
         shares.started = below + shares.belowRight;
         shares.belowRight = right;
         shares.next = shares.afterNext;
-        shares.afterNext = RotateUp(complete);
+        shares.afterNext = Shuffle2<[](int i) { return (i + bandRows - 1) % bandRows; }>(complete, complete);
         const ptrdiff_t x = t - lastLag - 1;
-        if (Inner || (x >= 0 && x < width_)) carried_[x] = FirstLane(shares.afterNext);
+        if (Inner || (x >= 0 && x < width_)) carried_[x] = shares.afterNext.raw[0];
     }
 
     const int32_t level_;
@@ -192,8 +191,8 @@ private:
 };
 
 // Fewer rows than lanes, at the end of an image: the last one is walked again in the lanes that are left over.
-inline void ditherBand(ptrdiff_t width, const Operand<const uint8_t>& src, ptrdiff_t y, ptrdiff_t rowCount,
-                       int32_t level, int32_t* carried, const Streams& streams) {
+inline void ditherBand(ptrdiff_t width, Image<const uint8_t> src, ptrdiff_t y, ptrdiff_t rowCount, int32_t level,
+                       int32_t* carried, const Streams& streams) {
     const uint8_t* rows[bandRows];
     for (ptrdiff_t r = 0; r < bandRows; ++r) rows[r] = src.at(0, y + (r < rowCount ? r : rowCount - 1));
     Wavefront wavefront(level, width, carried);
@@ -206,4 +205,4 @@ inline void ditherBand(ptrdiff_t width, const Operand<const uint8_t>& src, ptrdi
     }
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange

@@ -4,11 +4,9 @@
 // the value they had. Where a block has no chosen pixel, nothing is stored.
 #pragma once
 
-#include "frame/vec.h"
-#include "frame/vec_mask.h"
-#include "frame/vec_pattern.h"
+#include "exchange/pixel_masks.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 
 // Where the values come from: a row of the source image, or a pixel repeated.
 struct RowSource {
@@ -16,8 +14,8 @@ struct RowSource {
 
     PXL_INLINE RowSource from(ptrdiff_t offset) const { return {s + offset}; }
     template <int Bytes>
-    PXL_INLINE Piece piece(ptrdiff_t offset) const {
-        return loadPiece<Bytes>(s + offset);
+    PXL_INLINE Block piece(ptrdiff_t offset) const {
+        return LoadBlock<Bytes>(s + offset);
     }
     PXL_INLINE Vec<uint8_t> vector(ptrdiff_t offset, int j) const { return LoadU(s + offset + j * vecBytes); }
 };
@@ -34,11 +32,11 @@ struct PatternSource {
     PXL_INLINE const PatternSource& from(ptrdiff_t) const { return *this; }
     PXL_INLINE Vec<uint8_t> vector(ptrdiff_t, int j) const { return pattern.v[j % Pattern<E>::count]; }
     template <int Bytes>
-    PXL_INLINE Piece piece(ptrdiff_t offset) const {
+    PXL_INLINE Block piece(ptrdiff_t offset) const {
         if constexpr (E % 3 != 0)
-            return headOf(ints(pattern.v[0]));
+            return headOf(pattern.v[0]);
         else
-            return loadPiece<Bytes>(bytes + static_cast<uint32_t>(offset) % E);
+            return LoadBlock<Bytes>(bytes + static_cast<uint32_t>(offset) % E);
     }
 };
 
@@ -51,17 +49,17 @@ PXL_INLINE void blendFew(ptrdiff_t n, const uint8_t* m, uint8_t* d, const Source
     withPieceSize<E>(
         n * E, [&](auto size) __attribute__((always_inline)) {
             const auto blended = [&](ptrdiff_t o) __attribute__((always_inline)) {
-                const Piece keep = (mask.template piece<size>(o) | ... | headOf(ints(always.v[0])));
-                return blend(keep, loadPiece<size>(d + o), source.template piece<size>(o));
+                const Block keep = (mask.template piece<size>(o) | ... | headOf(always.v[0]));
+                return IfThenElse(keep, LoadBlock<size>(d + o), source.template piece<size>(o));
             };
             const ptrdiff_t end = n * E - size;
-            const Piece last = blended(end);
+            const Block last = blended(end);
             if constexpr (size < 16) {
-                storePiece<size>(blended(0), d);
+                StoreBlock<size>(blended(0), d);
             } else {
-                for (ptrdiff_t o = 0; o < end; o += size) storePiece<size>(blended(o), d + o);
+                for (ptrdiff_t o = 0; o < end; o += size) StoreBlock<size>(blended(o), d + o);
             }
-            storePiece<size>(last, d + end);
+            StoreBlock<size>(last, d + end);
         });
 }
 
@@ -73,7 +71,7 @@ PXL_INLINE void blendRow(ptrdiff_t n, const uint8_t* m, uint8_t* d, const Source
         unrolled<block * E / vecBytes>([&](auto j) __attribute__((always_inline)) {
             uint8_t* to = d + x * E + j * vecBytes;
             const Vec<uint8_t> keep = (mask.template vector<j>() | ... | always.v[0]);
-            StoreU(blend(keep, LoadU(to), source.vector(x * E, j)), to);
+            StoreU(IfThenElse(keep, LoadU(to), source.vector(x * E, j)), to);
         });
     };
     ptrdiff_t x = 0;
@@ -89,9 +87,9 @@ PXL_INLINE void blendRow(ptrdiff_t n, const uint8_t* m, uint8_t* d, const Source
     }
     for (ptrdiff_t few; x < n; x += few) {
         few = n - x < 16 ? n - x : 16;
-        if (_mm_movemask_epi8(zeroBytes(loadFew16(m + x, few))) != 0xFFFF)
+        if (BitsFromMask(ZeroBytes(LoadBlockN(m + x, few))) != 0xFFFF)
             blendFew<E>(few, m + x, d + x * E, source.from(x * E), always...);
     }
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange

@@ -6,37 +6,25 @@
 //
 // The in-place form exchanges two disjoint rows, or the two halves of a row, through a small buffer, so both forms
 // share the row moves. Rows that overlap in any other way are moved pixel by pixel, source rows in ascending order.
+#include "exchange/reverse.h"
 #include "frame/checks.h"
 #include "frame/pixel.h"
-#include "frame/vec.h"
-#include "frame/vec_reverse.h"
+#include "frame/vec/mask.h"
+#include "frame/vec/memory.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 namespace {
 
-// The bytes of a register that move: all but the alpha of every pixel.
-template <int Bytes, int Moved>
-struct MovedBytes {
-    alignas(vecBytes) uint8_t mask[vecBytes];
-    constexpr MovedBytes() : mask() {
-        for (int i = 0; i < vecBytes; ++i) mask[i] = i % Bytes < Moved ? 0xFF : 0;
-    }
-};
-
-template <int Bytes, int Moved>
-inline constexpr MovedBytes<Bytes, Moved> movedBytes;
-
-// What is stored at d where v moves there.
-template <int Bytes, int Moved>
+// What is stored at d where pixels of AC4 move there.
+template <int Bytes>
 PXL_INLINE Vec<uint8_t> keepingAlpha(Vec<uint8_t> v, const uint8_t* d) {
-    return IfThenElse(LoadU(movedBytes<Bytes, Moved>.mask), v, LoadU(d));
+    return IfThenElse(LoadU(alphaBytes<Bytes / 4>.bytes), LoadU(d), v);
 }
-template <int Bytes, int Moved>
-PXL_INLINE __m128i keepingAlpha(__m128i v, const uint8_t* d) {
-    const auto mask = loadWord<__m128i>(movedBytes<Bytes, Moved>.mask);
-    return _mm_or_si128(_mm_and_si128(mask, v), _mm_andnot_si128(mask, loadWord<__m128i>(d)));
+template <int Bytes>
+PXL_INLINE Block keepingAlpha(Block v, const uint8_t* d) {
+    return IfThenElse(LoadBlock<16>(alphaBytes<Bytes / 4>.bytes), loadWord<Block>(d), v);
 }
 
 // Fills a run of at least one register with make(x), the register at x. The last one may overlap the one before: the
@@ -67,27 +55,14 @@ PXL_INLINE void byEnds(uint8_t* d, ptrdiff_t bytes, Make&& make) {
 
 // ---- rows as they are -----------------------------------------------------------------------------------------------
 
-PXL_INLINE void copyShortRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
-    if (bytes < vecBytes)
-        copyFew<vecBytes>(d, s, static_cast<size_t>(bytes));
-    else
-        byRegisters(d, bytes, [=](ptrdiff_t x) { return LoadU(s + x); });
-}
-PXL_INLINE void copyRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
-    if (bytes <= 4096)
-        copyShortRow(s, d, bytes);
-    else
-        std::memcpy(d, s, static_cast<size_t>(bytes));
-}
-
 // The last pixel is moved by itself.
 template <int Bytes, int Moved>
 PXL_INLINE void copyRowKeepingAlpha(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     const ptrdiff_t last = bytes - Bytes;
     if (last >= vecBytes)
-        byRegisters(d, last, [=](ptrdiff_t x) { return keepingAlpha<Bytes, Moved>(LoadU(s + x), d + x); });
+        byRegisters(d, last, [=](ptrdiff_t x) { return keepingAlpha<Bytes>(LoadU(s + x), d + x); });
     else if (last >= 16)
-        byEnds(d, last, [=](ptrdiff_t x) { return keepingAlpha<Bytes, Moved>(loadWord<__m128i>(s + x), d + x); });
+        byEnds(d, last, [=](ptrdiff_t x) { return keepingAlpha<Bytes>(loadWord<Block>(s + x), d + x); });
     else
         for (ptrdiff_t x = 0; x < last; x += Bytes) movePixel<Moved>(s + x, d + x);
     movePixel<Moved>(s + last, d + last);
@@ -100,9 +75,9 @@ PXL_INLINE void reverseRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     const uint8_t* end = s + bytes;
     if (bytes >= vecBytes)
         return byRegisters(d, bytes, [=](ptrdiff_t x) { return LoadReversed<Bytes>(end - vecBytes - x); });
-    if constexpr (isAvx2)
+    if constexpr (vecBytes > 16)
         if (bytes >= 16)
-            return byEnds(d, bytes, [=](ptrdiff_t x) { return reverseBlocks<Bytes>(loadWord<__m128i>(end - 16 - x)); });
+            return byEnds(d, bytes, [=](ptrdiff_t x) { return ReverseBlock<Bytes>(loadWord<Block>(end - 16 - x)); });
     if constexpr (Bytes < 8)
         if (bytes >= 8) return byEnds(d, bytes, [=](ptrdiff_t x) { return loadReversed8<Bytes>(end - 8 - x); });
     for (ptrdiff_t x = 0; x < bytes; x += Bytes) movePixel<Bytes>(end - Bytes - x, d + x);
@@ -116,12 +91,11 @@ PXL_INLINE void reverseRowKeepingAlpha(const uint8_t* s, uint8_t* d, ptrdiff_t b
     d += Bytes;
     bytes -= Bytes;
     if (bytes >= vecBytes)
-        return byRegisters(d, bytes, [=](ptrdiff_t x) {
-            return keepingAlpha<Bytes, Moved>(LoadReversed<Bytes>(end - vecBytes - x), d + x);
-        });
+        return byRegisters(
+            d, bytes, [=](ptrdiff_t x) { return keepingAlpha<Bytes>(LoadReversed<Bytes>(end - vecBytes - x), d + x); });
     if (bytes >= 16)
         return byEnds(d, bytes, [=](ptrdiff_t x) {
-            return keepingAlpha<Bytes, Moved>(reverseBlocks<Bytes>(loadWord<__m128i>(end - 16 - x)), d + x);
+            return keepingAlpha<Bytes>(ReverseBlock<Bytes>(loadWord<Block>(end - 16 - x)), d + x);
         });
     for (ptrdiff_t x = 0; x < bytes; x += Bytes) movePixel<Moved>(end - Bytes - x, d + x);
 }
@@ -131,15 +105,15 @@ template <int Bytes>
 PXL_INLINE void reverseRowOfThrees(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     const uint8_t* end = s + bytes;
     ptrdiff_t x = 0;
-#ifdef __AVX2__
-    if (bytes >= 96) {
-        for (; x + 96 <= bytes; x += 96) storeReversed96<Bytes>(end - x - 96, d + x);
-        if (x < bytes) storeReversed96<Bytes>(s, d + bytes - 96);
-        return;
+    if constexpr (hasByteShuffle) {
+        if (bytes >= 96) {
+            for (; x + 96 <= bytes; x += 96) storeReversed96<Bytes>(end - x - 96, d + x);
+            if (x < bytes) storeReversed96<Bytes>(s, d + bytes - 96);
+            return;
+        }
+        if constexpr (Bytes < 12)
+            for (; x + 16 <= bytes; x += 16 / Bytes * Bytes) storeReversed16<Bytes>(end - x - 16, d + x);
     }
-    if constexpr (Bytes < 12)
-        for (; x + 16 <= bytes; x += 16 / Bytes * Bytes) storeReversed16<Bytes>(end - x - 16, d + x);
-#endif
     constexpr ptrdiff_t word = sizeof(typename PixelWord<Bytes>::type);
     for (; x + word <= bytes; x += Bytes) storePixelWord<Bytes>(end - x - word, d + x);
     for (; x < bytes; x += Bytes) movePixel<Bytes>(end - x - Bytes, d + x);
@@ -148,16 +122,15 @@ PXL_INLINE void reverseRowOfThrees(const uint8_t* s, uint8_t* d, ptrdiff_t bytes
 // ---- regions --------------------------------------------------------------------------------------------------------
 
 // Moves rows of so many bytes alike; no destination row meets a source row.
-using MoveRows = void (*)(const uint8_t* s, ptrdiff_t srcStep, uint8_t* d, ptrdiff_t dstStep, ptrdiff_t bytes,
-                          ptrdiff_t rows);
+using MoveRows = void(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t bytes, ptrdiff_t rows);
 
 template <void (*Row)(const uint8_t*, uint8_t*, ptrdiff_t)>
-void eachRow(const uint8_t* s, ptrdiff_t srcStep, uint8_t* d, ptrdiff_t dstStep, ptrdiff_t bytes, ptrdiff_t rows) {
-    for (ptrdiff_t y = 0; y < rows; ++y, s += srcStep, d += dstStep) Row(s, d, bytes);
+void eachRow(Image<const uint8_t> src, Image<uint8_t> dst, ptrdiff_t bytes, ptrdiff_t rows) {
+    for (ptrdiff_t y = 0; y < rows; ++y, src.base += src.step, dst.base += dst.step) Row(src.base, dst.base, bytes);
 }
 
 template <int Bytes, int Moved>
-MoveRows moveRows(bool reversed) {
+MoveRows* moveRows(bool reversed) {
     if constexpr (Moved < Bytes)
         return reversed ? eachRow<reverseRowKeepingAlpha<Bytes, Moved>> : eachRow<copyRowKeepingAlpha<Bytes, Moved>>;
     else if constexpr (Bytes % 3 == 0)
@@ -166,102 +139,99 @@ MoveRows moveRows(bool reversed) {
         return reversed ? eachRow<reverseRow<Bytes>> : eachRow<copyRow>;
 }
 
-bool meet(const uint8_t* a, const uint8_t* b, ptrdiff_t bytes) {
-    const auto extent = [bytes](const uint8_t* p) {
-        return Extent{reinterpret_cast<const char*>(p), reinterpret_cast<const char*>(p + bytes)};
-    };
-    return extent(a).meets(extent(b));
-}
+bool meet(const uint8_t* a, const uint8_t* b, ptrdiff_t bytes) { return a < b + bytes && b < a + bytes; }
 
 template <int Bytes, int Moved>
-void moveOverlapping(const uint8_t* s, uint8_t* d, ptrdiff_t width, bool reversed) {
+void moveOverlappingRow(const uint8_t* s, uint8_t* d, ptrdiff_t width, bool reversed) {
     for (ptrdiff_t x = 0; x < width; ++x) movePixel<Moved>(s + (reversed ? width - 1 - x : x) * Bytes, d + x * Bytes);
 }
 
 template <int Bytes, int Moved>
-void mirror(const uint8_t* src, ptrdiff_t srcStep, uint8_t* dst, ptrdiff_t dstStep, ImageSize roi, PxlAxis flip) {
+void mirrorPixels(Image<const uint8_t, Bytes, Moved> src, Image<uint8_t, Bytes, Moved> dst, ImageSize roi,
+                  PxlAxis flip) {
     const bool reversed = flip != PXL_AXIS_HORIZONTAL;
-    const MoveRows move = moveRows<Bytes, Moved>(reversed);
-    const ptrdiff_t bytes = static_cast<ptrdiff_t>(roi.width) * Bytes;
-    if (flip != PXL_AXIS_VERTICAL) {
-        dst += (roi.height - 1) * dstStep;
-        dstStep = -dstStep;
-    }
-    const Operand<const uint8_t> read = {src, srcStep, Bytes};
-    const Operand<uint8_t> written = {dst, dstStep, Bytes};
-    if (!extentOf(read, roi.width, roi.height).meets(extentOf(written, roi.width, roi.height)))
-        return move(src, srcStep, dst, dstStep, bytes, roi.height);
-    for (ptrdiff_t y = 0; y < roi.height; ++y, src += srcStep, dst += dstStep)
-        if (meet(src, dst, bytes))
-            moveOverlapping<Bytes, Moved>(src, dst, roi.width, reversed);
+    MoveRows* const move = moveRows<Bytes, Moved>(reversed);
+    const ptrdiff_t bytes = roi.width * dst.pixelBytes;
+    if (flip != PXL_AXIS_VERTICAL) dst = {dst.at(0, roi.height - 1), -dst.step};
+    if (!extentOf(src, roi.width, roi.height).meets(extentOf(dst, roi.width, roi.height)))
+        return move(elementsOf(src), elementsOf(dst), bytes, roi.height);
+    for (ptrdiff_t y = 0; y < roi.height; ++y) {
+        const uint8_t* const s = src.at(0, y);
+        uint8_t* const d = dst.at(0, y);
+        if (meet(s, d, bytes))
+            moveOverlappingRow<Bytes, Moved>(s, d, roi.width, reversed);
         else
-            move(src, 0, dst, 0, bytes, 1);
+            move({s, 0}, {d, 0}, bytes, 1);
+    }
 }
 
 // Exchanges two disjoint rows, or halves of one. Reversed, the beginning of one meets the end of the other.
-void exchange(uint8_t* a, uint8_t* b, ptrdiff_t bytes, MoveRows move, bool reversed) {
+void exchangeRows(uint8_t* a, uint8_t* b, ptrdiff_t bytes, MoveRows* move, bool reversed) {
     constexpr ptrdiff_t chunk = 480; // whole pixels of every size
     alignas(vecBytes) uint8_t held[chunk];
     for (ptrdiff_t n; bytes > 0; bytes -= n, a += n) {
         n = bytes < chunk ? bytes : chunk;
         uint8_t* other = reversed ? b + bytes - n : b;
-        copyShortRow(a, held, n);
-        move(other, 0, a, 0, n, 1);
-        move(held, 0, other, 0, n, 1);
+        copyRow(a, held, n);
+        move({other, 0}, {a, 0}, n, 1);
+        move({held, 0}, {other, 0}, n, 1);
         if (!reversed) b += n;
     }
 }
 
 template <int Bytes, int Moved>
-void exchangeOverlapping(uint8_t* a, uint8_t* b, ptrdiff_t width, bool reversed) {
+void exchangeOverlappingRows(uint8_t* a, uint8_t* b, ptrdiff_t width, bool reversed) {
     for (ptrdiff_t x = 0; x < width; ++x)
         exchangePixels<Moved>(a + x * Bytes, b + (reversed ? width - 1 - x : x) * Bytes);
 }
 
 template <int Bytes, int Moved>
-void mirrorInPlace(uint8_t* image, ptrdiff_t step, ImageSize roi, PxlAxis flip) {
+void mirrorPixelsInPlace(Image<uint8_t, Bytes, Moved> image, ImageSize roi, PxlAxis flip) {
     const bool reversed = flip != PXL_AXIS_HORIZONTAL;
-    const MoveRows move = moveRows<Bytes, Moved>(reversed);
-    const ptrdiff_t bytes = static_cast<ptrdiff_t>(roi.width) * Bytes;
-    const ptrdiff_t half = roi.width / 2 * static_cast<ptrdiff_t>(Bytes);
-    const auto reverseHalves = [=](uint8_t* row) { exchange(row, row + bytes - half, half, move, true); };
+    MoveRows* const move = moveRows<Bytes, Moved>(reversed);
+    const ptrdiff_t bytes = roi.width * image.pixelBytes;
+    const ptrdiff_t half = roi.width / 2 * image.pixelBytes;
+    const auto reverseHalves = [=](ptrdiff_t y) {
+        uint8_t* const row = image.at(0, y);
+        exchangeRows(row, row + bytes - half, half, move, true);
+    };
     if (flip == PXL_AXIS_VERTICAL) {
-        for (ptrdiff_t y = 0; y < roi.height; ++y, image += step) reverseHalves(image);
+        for (ptrdiff_t y = 0; y < roi.height; ++y) reverseHalves(y);
         return;
     }
-    uint8_t* other = image + (roi.height - 1) * step;
-    for (ptrdiff_t y = 0; y < roi.height / 2; ++y, image += step, other -= step)
-        if (meet(image, other, bytes))
-            exchangeOverlapping<Bytes, Moved>(image, other, roi.width, reversed);
+    for (ptrdiff_t y = 0; y < roi.height / 2; ++y) {
+        uint8_t* const row = image.at(0, y);
+        uint8_t* const other = image.at(0, roi.height - 1 - y);
+        if (meet(row, other, bytes))
+            exchangeOverlappingRows<Bytes, Moved>(row, other, roi.width, reversed);
         else
-            exchange(image, other, bytes, move, reversed);
-    if (reversed && roi.height % 2) reverseHalves(image);
+            exchangeRows(row, other, bytes, move, reversed);
+    }
+    if (reversed && roi.height % 2) reverseHalves(roi.height / 2);
 }
 
 // ---- entries --------------------------------------------------------------------------------------------------------
 
-bool isAxis(PxlAxis flip) { return flip == PXL_AXIS_HORIZONTAL || flip == PXL_AXIS_VERTICAL || flip == PXL_AXIS_BOTH; }
+Check axis(PxlAxis flip) {
+    return refuse(flip != PXL_AXIS_HORIZONTAL && flip != PXL_AXIS_VERTICAL && flip != PXL_AXIS_BOTH, PXL_E_MIRROR_AXIS);
+}
 
 template <class T, int Elements, int Channels>
-PxlStatus Mirror(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, PxlAxis flip) {
-    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (!isAxis(flip)) return PXL_E_MIRROR_AXIS;
-    mirror<Elements * sizeof(T), Channels * sizeof(T)>(reinterpret_cast<const uint8_t*>(src), srcStep,
-                                                       reinterpret_cast<uint8_t*>(dst), dstStep, roi, flip);
+PxlStatus mirror(Image<const T, Elements, Channels> src, Image<T, Elements, Channels> dst, ImageSize roi,
+                 PxlAxis flip) {
+    if (const PxlStatus status = check(null(src, dst), size(roi), axis(flip))) return status;
+    mirrorPixels(bytesOf(src), bytesOf(dst), roi, flip);
     return PXL_OK;
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus MirrorInPlace(T* srcDst, int step, ImageSize roi, PxlAxis flip) {
-    if (anyNull(srcDst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (!isAxis(flip)) return PXL_E_MIRROR_AXIS;
-    mirrorInPlace<Elements * sizeof(T), Channels * sizeof(T)>(reinterpret_cast<uint8_t*>(srcDst), step, roi, flip);
+PxlStatus mirrorInPlace(Image<T, Elements, Channels> image, ImageSize roi, PxlAxis flip) {
+    if (const PxlStatus status = check(null(image), size(roi), axis(flip))) return status;
+    mirrorPixelsInPlace(bytesOf(image), roi, flip);
     return PXL_OK;
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange
 
 #include "members/exchange/mirror.inc"

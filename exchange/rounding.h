@@ -6,7 +6,7 @@
 // anyway.)
 #pragma once
 
-#include "frame/vec.h"
+#include "frame/vec/vec.h"
 
 namespace pxl::PXL_TARGET::exchange {
 

@@ -37,7 +37,7 @@ struct NarrowToByte {
         Vec<uint16_t> u = BitCast<uint16_t>(v);
         if constexpr (std::is_signed_v<S>) u = u ^ Set<uint16_t>(0x8000);
         const Vec<uint16_t> sum = SaturatedAdd(u, Set<uint16_t>(128));
-        return BitCast<int16_t>(ShiftRight<8>(MultiplyHigh(sum, Set<uint16_t>(65281))));
+        return BitCast<int16_t>(ShiftRight<8>(MulHigh(sum, Set<uint16_t>(65281))));
     }
 };
 
@@ -62,7 +62,7 @@ struct ToFloat {
     float slope, vMin;
 
     PXL_INLINE Vec<float> operator()(Vec<uint8_t> v) const {
-        return PromoteFirst<float>(v) * Set<float>(slope) + Set<float>(vMin);
+        return PromoteTo<float>(v) * Set<float>(slope) + Set<float>(vMin);
     }
 };
 

@@ -4,19 +4,13 @@
 // element or other channels keep their value, whole registers are rewritten with what they held.
 #include "exchange/masked_row.h"
 #include "frame/checks.h"
-#include "frame/vec.h"
-#include "frame/vec_pattern.h"
-#include "frame/vec_stream.h"
+#include "frame/vec/memory.h"
+#include "frame/vec/pattern.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 namespace {
-
-template <class T>
-PXL_INLINE uint8_t* bytesOf(T* p) {
-    return reinterpret_cast<uint8_t*>(p);
-}
 
 // A run of pixels too long to stay in the caches. Streamed stores are aligned, so they begin in the middle of the first
 // register; the last ones end with the run.
@@ -37,7 +31,7 @@ void streamPixels(uint8_t* d, ptrdiff_t bytes, const Pattern<E>& pattern) {
 
 // Long runs of bytes are left to memset, which knows more ways to fill than there are here; below it is as fast.
 template <int E>
-PXL_INLINE void fillRun(uint8_t* d, ptrdiff_t bytes, const Pattern<E>& pattern) {
+PXL_INLINE void fillRow(uint8_t* d, ptrdiff_t bytes, const Pattern<E>& pattern) {
     constexpr ptrdiff_t longRun = E == 1 ? 4096 : streamedBytes;
     if (bytes < longRun)
         fillPixels(d, bytes, pattern);
@@ -47,56 +41,53 @@ PXL_INLINE void fillRun(uint8_t* d, ptrdiff_t bytes, const Pattern<E>& pattern) 
         streamPixels(d, bytes, pattern);
 }
 
-template <int E>
-PxlStatus setPixels(const void* value, uint8_t* dst, int dstStep, ImageSize roi) {
-    if (anyNull(dst, value)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    const Pattern<E> pattern = patternOf<E>(value);
-    const auto row = [&](ptrdiff_t n, uint8_t* d) { fillRun(d, n * E, pattern); };
-    walk(roi, row, operand(dst, dstStep, E));
+template <int E, int Processed>
+PxlStatus setPixels(Values<uint8_t, Processed> value, Image<uint8_t, E, Processed> dst, ImageSize roi) {
+    if (const PxlStatus status = check(null(dst, value), size(roi))) return status;
+    const Pattern<E> pattern = pixelPattern<E, Processed>(value.base);
+    const auto row = [&](ptrdiff_t n, uint8_t* d) {
+        if constexpr (E == Processed)
+            fillRow(d, n * E, pattern);
+        else
+            fillPixels(d, n * E, pattern, alphaPattern<E>());
+    };
+    walk(roi, row, dst);
     return PXL_OK;
 }
 
-template <class T, int Elements>
-PxlStatus SetElements(const T* value, T* dst, int dstStep, ImageSize roi) {
-    return setPixels<Elements * sizeof(T)>(value, bytesOf(dst), dstStep, roi);
-}
-template <class T, int Elements>
-PxlStatus SetElements(T value, T* dst, int dstStep, ImageSize roi) {
-    return setPixels<sizeof(T)>(&value, bytesOf(dst), dstStep, roi);
+template <class T, int Elements, int Channels>
+PxlStatus set(Values<T, Channels> value, Image<T, Elements, Channels> dst, ImageSize roi) {
+    return setPixels(bytesOf(value), bytesOf(dst), roi);
 }
 
-template <class T>
-PxlStatus SetColour(const T* value, T* dst, int dstStep, ImageSize roi) {
-    if (anyNull(dst, value)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    constexpr int E = 4 * sizeof(T);
-    const Pattern<E> colour = colourPattern<E>(value);
-    const auto row = [&](ptrdiff_t n, uint8_t* d) { fillPixels(d, n * E, colour, alphaPattern<E>()); };
-    walk(roi, row, operand(bytesOf(dst), dstStep, E));
-    return PXL_OK;
-}
+// All ones behind the first First bytes of every pixel.
+template <int E, int First>
+struct BytesBehind {
+    alignas(vecBytes) uint8_t bytes[Pattern<E>::count * vecBytes];
+    constexpr BytesBehind() : bytes{} {
+        for (int k = 0; k < Pattern<E>::count * vecBytes; ++k) bytes[k] = k % E >= First ? 0xFF : 0;
+    }
+};
+template <int E, int First>
+inline constexpr BytesBehind<E, First> bytesBehind;
 
 // The pointer stands at the chosen channel, so the last pixel of a row may end right behind it.
 template <class T, int Elements>
-PxlStatus SetChannel(T value, T* dst, int dstStep, ImageSize roi) {
-    if (anyNull(dst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
+PxlStatus setChannel(Values<T, 1> value, Image<T, Elements, 1> dst, ImageSize roi) {
+    if (const PxlStatus status = check(null(dst), size(roi))) return status;
     constexpr int E = Elements * sizeof(T);
-    const T pixel[Elements] = {value};
+    const T pixel[Elements] = {value[0]};
     const Pattern<E> channel = patternOf<E>(pixel);
     const auto row = [&](ptrdiff_t n, uint8_t* d) {
         const ptrdiff_t before = (n - 1) * E;
-        fillPixels(d, before, channel, maskPattern<E, sizeof(T), E>());
-        store1(reinterpret_cast<T*>(d + before), value);
+        fillPixels(d, before, channel, loadPattern<E>(bytesBehind<E, sizeof(T)>.bytes));
+        store1(reinterpret_cast<T*>(d + before), pixel[0]);
     };
-    walk(roi, row, operand(bytesOf(dst), dstStep, E));
+    walk(roi, row, bytesOf(dst));
     return PXL_OK;
 }
 
 // ---- masked ---------------------------------------------------------------------------------------------------------
-
-using MaskedRow = void(ptrdiff_t n, uint8_t* d, const uint8_t* m, const void* pattern);
 
 template <int E>
 void setMaskedRow(ptrdiff_t n, uint8_t* d, const uint8_t* m, const void* pattern) {
@@ -108,42 +99,34 @@ void setColourRow(ptrdiff_t n, uint8_t* d, const uint8_t* m, const void* pattern
     blendRow<E>(n, m, d, PatternSource<E>(pattern), alphaPattern<E>());
 }
 
-void setMaskedRows(uint8_t* dst, int dstStep, ImageSize roi, const uint8_t* mask, int maskStep, int pixelBytes,
-                   MaskedRow* row, const void* pattern) {
+using MaskedRow = void(ptrdiff_t n, uint8_t* d, const uint8_t* m, const void* pattern);
+
+// One walk for pixels of every size, which comes beside the image: so all go through registers.
+void setMaskedRows(Image<uint8_t> dst, ptrdiff_t pixelBytes, ImageSize roi, Image<const uint8_t> mask, MaskedRow* row,
+                   const void* pattern) {
     const auto kernel = [=](ptrdiff_t n, uint8_t* d, const uint8_t* m) { row(n, d, m, pattern); };
-    walk(roi, kernel, operand(dst, dstStep, pixelBytes), operand(mask, maskStep));
+    walk(roi, kernel, Image<uint8_t, anyElements>(dst.base, dst.step, pixelBytes), mask);
 }
 
-template <int E>
-PxlStatus setMaskedPixels(const void* value, uint8_t* dst, int dstStep, ImageSize roi, const uint8_t* mask,
-                          int maskStep) {
-    if (anyNull(dst, value, mask)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    const Pattern<E> pattern = patternOf<E>(value);
-    setMaskedRows(dst, dstStep, roi, mask, maskStep, E, setMaskedRow<E>, &pattern);
+template <int E, int Processed>
+PxlStatus setMaskedPixels(Values<uint8_t, Processed> value, Image<uint8_t, E, Processed> dst, ImageSize roi,
+                          Image<const uint8_t> mask) {
+    if (const PxlStatus status = check(null(dst, value, mask), size(roi))) return status;
+    const Pattern<E> pattern = pixelPattern<E, Processed>(value.base);
+    if constexpr (E == Processed)
+        setMaskedRows(elementsOf(dst), E, roi, mask, setMaskedRow<E>, &pattern);
+    else
+        setMaskedRows(elementsOf(dst), E, roi, mask, setColourRow<E>, &pattern);
     return PXL_OK;
 }
 
-template <class T, int Elements>
-PxlStatus SetMasked(const T* value, T* dst, int dstStep, ImageSize roi, const uint8_t* mask, int maskStep) {
-    return setMaskedPixels<Elements * sizeof(T)>(value, bytesOf(dst), dstStep, roi, mask, maskStep);
-}
-template <class T, int Elements>
-PxlStatus SetMasked(T value, T* dst, int dstStep, ImageSize roi, const uint8_t* mask, int maskStep) {
-    return setMaskedPixels<sizeof(T)>(&value, bytesOf(dst), dstStep, roi, mask, maskStep);
-}
-
-template <class T>
-PxlStatus SetColourMasked(const T* value, T* dst, int dstStep, ImageSize roi, const uint8_t* mask, int maskStep) {
-    if (anyNull(dst, value, mask)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    constexpr int E = 4 * sizeof(T);
-    const Pattern<E> colour = colourPattern<E>(value);
-    setMaskedRows(bytesOf(dst), dstStep, roi, mask, maskStep, E, setColourRow<E>, &colour);
-    return PXL_OK;
+template <class T, int Elements, int Channels>
+PxlStatus setMasked(Values<T, Channels> value, Image<T, Elements, Channels> dst, ImageSize roi,
+                    Image<const uint8_t> mask) {
+    return setMaskedPixels(bytesOf(value), bytesOf(dst), roi, mask);
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange
 
 #include "members/exchange/set.inc"

@@ -1,13 +1,14 @@
 // Channel orders: element k of a destination pixel receives element dstOrder[k] of the source pixel. All elements of a
-// pixel are read before one is written. On AVX2 an order is one byte shuffle per group of pixels, made once per call;
-// on SSE2, which has none, channels are taken apart and put together again.
+// pixel are read before one is written. With shuffles of bytes an order is one of them per group of pixels, made once
+// per call; without, channels are taken apart and put together again.
 #include "exchange/group_rows.h"
 #include "frame/checks.h"
 #include "frame/row_parts.h"
+#include "frame/vec/partial.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::exchange {
 namespace {
 
 // ---- orders -------------------------------------------------------------------------------------------------------
@@ -24,138 +25,121 @@ bool isInRange(const int32_t* order, int32_t last) {
     return true;
 }
 
-// ---- rows ---------------------------------------------------------------------------------------------------------
-
-#ifdef __AVX2__
-
-template <class T, GroupForm Form, int Entries>
-void ownSwap(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const int32_t* dstOrder, T value = 0) {
-    const OrderLookup<T, Form.srcElements, Form.dstElements, Entries> lookup(dstOrder, value);
-    const auto change = [=](Vec<T> source, Vec<T> old) {
-        Vec<T> pixels = lookup(source);
-        if constexpr (Form.srcElements < Form.dstElements) pixels = pixels | lookup.value;
-        if constexpr (Form.keepsOld) pixels = pixels | (old & lookup.keep);
-        return pixels;
-    };
-    walkGroups<T, Form>(roi, change, src, srcStep, dst, dstStep);
+template <int Entries>
+auto order(const int32_t* dstOrder, int32_t last) {
+    return refuseIf([=] { return !isInRange<Entries>(dstOrder, last); }, PXL_E_CHANNEL_ORDER);
 }
 
-#else
+// ---- rows ---------------------------------------------------------------------------------------------------------
 
 struct Order {
     int32_t from[4] = {keep, keep, keep, keep};
 };
 
-template <class T, GroupForm Form>
+template <bool Keeps, class Src, class Dst, class T>
 void swapPixels(ptrdiff_t n, const T* s, T* d, const Order& order, T value) {
-    for (; n > 0; --n, s += Form.srcElements, d += Form.dstElements) {
+    for (; n > 0; --n, s += Src::elements, d += Dst::elements) {
         T source[4] = {value, value, value, value};
-        std::memcpy(source, s, Form.srcRead() * sizeof(T));
-        for (int k = 0; k < Form.dstElements; ++k)
-            if (!Form.keepsOld || order.from[k] < keep) store1(d + k, source[order.from[k]]);
+        std::memcpy(source, s, Src::channels * sizeof(T));
+        for (int k = 0; k < Dst::elements; ++k)
+            if (!Keeps || order.from[k] < keep) store1(d + k, source[order.from[k]]);
     }
 }
 
 // As many pixels as a vector has lanes.
-template <class T, GroupForm Form>
+template <bool Keeps, class Src, class Dst, class T>
 PXL_INLINE void swapVectors(const T* s, T* d, const Order& order, T value) {
-    Vec<T> pixels[Form.srcElements];
+    Vec<T> pixels[Src::elements];
     loadPixels<lanes<T>>(s, pixels);
     deinterleave(pixels);
     Vec<T> source[4] = {pixels[0], pixels[1], pixels[2], Set<T>(value)};
-    if constexpr (Form.srcElements == 4) source[3] = pixels[3];
-    Vec<T> swapped[Form.dstElements];
-    if constexpr (Form.keepsOld) {
+    if constexpr (Src::elements == 4) source[3] = pixels[3];
+    Vec<T> swapped[Dst::elements];
+    if constexpr (Keeps) {
         loadPixels<lanes<T>>(d, swapped);
         deinterleave(swapped);
     }
-    for (int k = 0; k < Form.dstElements; ++k)
-        if (!Form.keepsOld || order.from[k] < keep) swapped[k] = source[order.from[k]];
+    for (int k = 0; k < Dst::elements; ++k)
+        if (!Keeps || order.from[k] < keep) swapped[k] = source[order.from[k]];
     interleave(swapped);
     storePixels<lanes<T>>(swapped, d);
 }
 
-template <class T, GroupForm Form>
-PXL_INLINE void ownSwapRow(ptrdiff_t n, const T* s, T* d, const Order& order, T value) {
-    const ptrdiff_t readable = Form.srcRead() == Form.srcElements ? n : n - 1;
+template <bool Keeps, class Src, class Dst, class T>
+PXL_INLINE void swapRow(ptrdiff_t n, const T* s, T* d, const Order& order, T value) {
+    const ptrdiff_t readable = Src::channels == Src::elements ? n : n - 1;
     ptrdiff_t x = 0;
     for (; x + lanes<T> <= readable; x += lanes<T>)
-        swapVectors<T, Form>(s + x * Form.srcElements, d + x * Form.dstElements, order, value);
-    swapPixels<T, Form>(n - x, s + x * Form.srcElements, d + x * Form.dstElements, order, value);
+        swapVectors<Keeps, Src, Dst>(s + x * Src::elements, d + x * Dst::elements, order, value);
+    swapPixels<Keeps, Src, Dst>(n - x, s + x * Src::elements, d + x * Dst::elements, order, value);
 }
 
-template <class T, GroupForm Form, int Entries>
-void ownSwap(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const int32_t* dstOrder, T value = 0) {
-    Order order;
-    std::memcpy(order.from, dstOrder, Entries * sizeof(int32_t));
-    const auto row = [=](ptrdiff_t n, const T* s, T* d) { ownSwapRow<T, Form>(n, s, d, order, value); };
-    walk(roi, row, operand(src, srcStep, Form.srcElements), operand(dst, dstStep, Form.dstElements));
+// Keeps: entries may say that the destination keeps its element.
+template <int Entries, bool Keeps, class Src, class Dst>
+void swap(Src src, Dst dst, ImageSize roi, const int32_t* dstOrder, typename Dst::Element value = 0) {
+    using T = typename Dst::Element;
+    if constexpr (hasByteShuffle) {
+        const OrderLookup<T, Src::elements, Dst::elements, Entries> lookup(dstOrder, value);
+        if constexpr (Keeps)
+            walkGroups(
+                roi, [=](Vec<T> source, Vec<T> old) { return lookup(source) | (old & lookup.keep); }, src, dst);
+        else
+            walkGroups(
+                roi, [=](Vec<T> source) { return lookup(source); }, src, dst);
+    } else {
+        Order order;
+        std::memcpy(order.from, dstOrder, Entries * sizeof(int32_t));
+        const auto row = [=](ptrdiff_t n, const T* s, T* d) { swapRow<Keeps, Src, Dst>(n, s, d, order, value); };
+        walk(roi, row, src, dst);
+    }
 }
-
-#endif
 
 // ---- members ------------------------------------------------------------------------------------------------------
 
+// C3 and AC4, which keeps its fourth element.
 template <class T, int Elements>
-PxlStatus SwapChannels(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const int32_t* dstOrder) {
-    constexpr GroupForm form{
-        .srcElements = Elements, .dstElements = Elements, .readsFourth = false, .keepsOld = Elements == 4};
-    if (anyNull(src, dst, dstOrder)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (anyStepBelow1(srcStep, dstStep)) return PXL_E_STEP;
-    if (!isInRange<3>(dstOrder, 2)) return PXL_E_CHANNEL_ORDER;
-    ownSwap<T, form, 3>(src, srcStep, dst, dstStep, roi, dstOrder);
+PxlStatus swapChannels(Image<const T, Elements, 3> src, Image<T, Elements, 3> dst, ImageSize roi,
+                       const int32_t* dstOrder) {
+    if (const PxlStatus status = check(null(src, dst, dstOrder), size(roi), steps(src, dst), order<3>(dstOrder, 2)))
+        return status;
+    swap<3, Elements == 4>(src, dst, roi, dstOrder);
+    return PXL_OK;
+}
+
+// The step before the size, unlike the other members.
+template <class T>
+PxlStatus swapFourInPlace(Image<const T, 4> src, Image<T, 4> dst, ImageSize roi, const int32_t* dstOrder) {
+    if (const PxlStatus status = check(null(dst, dstOrder), steps(dst), size(roi), order<4>(dstOrder, 3)))
+        return status;
+    swap<4, false>(src, dst, roi, dstOrder);
     return PXL_OK;
 }
 
 template <class T>
-PxlStatus SwapChannelsInPlace3(T* srcDst, int step, ImageSize roi, const int32_t* dstOrder) {
-    return SwapChannels<T, 3>(srcDst, step, srcDst, step, roi, dstOrder);
-}
-
-template <class T>
-PxlStatus SwapChannelsInPlace4(T* srcDst, int step, ImageSize roi, const int32_t* dstOrder) {
-    constexpr GroupForm form{.srcElements = 4, .dstElements = 4, .readsFourth = true, .keepsOld = false};
-    if (anyNull(srcDst, dstOrder)) return PXL_E_NULL_PTR;
-    if (anyStepBelow1(step)) return PXL_E_STEP; // before the size, unlike the other members
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (!isInRange<4>(dstOrder, 3)) return PXL_E_CHANNEL_ORDER;
-    ownSwap<T, form, 4>(srcDst, step, srcDst, step, roi, dstOrder);
-    return PXL_OK;
-}
-
-template <class T>
-PxlStatus SwapChannels3To4(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const int32_t* dstOrder,
-                           T value) {
-    constexpr GroupForm form{.srcElements = 3, .dstElements = 4, .readsFourth = false, .keepsOld = false};
-    constexpr GroupForm keeping{.srcElements = 3, .dstElements = 4, .readsFourth = false, .keepsOld = true};
-    if (anyNull(src, dst, dstOrder)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (!isInRange<4>(dstOrder, INT32_MAX)) return PXL_E_CHANNEL_ORDER;
+PxlStatus swapThreeToFour(Image<const T, 3> src, Image<T, 4> dst, ImageSize roi, const int32_t* dstOrder, T value) {
+    if (const PxlStatus status = check(null(src, dst, dstOrder), size(roi), order<4>(dstOrder, INT32_MAX)))
+        return status;
     if (isInRange<4>(dstOrder, fill))
-        ownSwap<T, form, 4>(src, srcStep, dst, dstStep, roi, dstOrder, value);
+        swap<4, false>(src, dst, roi, dstOrder, value);
     else
-        ownSwap<T, keeping, 4>(src, srcStep, dst, dstStep, roi, dstOrder, value);
+        swap<4, true>(src, dst, roi, dstOrder, value);
     return PXL_OK;
 }
 
 template <class T>
-PxlStatus SwapChannels4To3(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const int32_t* dstOrder) {
-    constexpr GroupForm form{.srcElements = 4, .dstElements = 3, .readsFourth = true, .keepsOld = false};
-    if (anyNull(src, dst, dstOrder)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    if (!isInRange<3>(dstOrder, 3)) return PXL_E_CHANNEL_ORDER;
-    ownSwap<T, form, 3>(src, srcStep, dst, dstStep, roi, dstOrder);
+PxlStatus swapFourToThree(Image<const T, 4> src, Image<T, 3> dst, ImageSize roi, const int32_t* dstOrder) {
+    if (const PxlStatus status = check(null(src, dst, dstOrder), size(roi), order<3>(dstOrder, 3))) return status;
+    swap<3, false>(src, dst, roi, dstOrder);
     return PXL_OK;
 }
 
 // ---- one channel to three -----------------------------------------------------------------------------------------
 
 template <class T>
-void ownDuplicateRow(ptrdiff_t n, const T* s, T* d) {
+void duplicateRow(ptrdiff_t n, const T* s, T* d) {
     const auto part = [&]<int P>(Part<P>, ptrdiff_t x) {
         Vec<T> pixels[3];
-        repeatChannel3(LoadPart<P>(s + x), pixels);
+        repeatChannel3(LoadFirst<P>(s + x), pixels);
         storePixels<P>(pixels, d + x * 3);
     };
     if (rowByParts<lanes<T>, leastPart<T>>(n, part)) return;
@@ -166,14 +150,13 @@ void ownDuplicateRow(ptrdiff_t n, const T* s, T* d) {
 }
 
 template <class T>
-PxlStatus Duplicate(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi) {
-    if (anyNull(src, dst)) return PXL_E_NULL_PTR;
-    if (isEmpty(roi)) return PXL_E_SIZE;
-    walk(roi, ownDuplicateRow<T>, operand(src, srcStep), operand(dst, dstStep, 3));
+PxlStatus duplicate(Image<const T> src, Image<T, 3> dst, ImageSize roi) {
+    if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
+    walk(roi, duplicateRow<T>, src, dst);
     return PXL_OK;
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::exchange
 
 #include "members/exchange/swap_channels.inc"

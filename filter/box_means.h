@@ -2,11 +2,13 @@
 // bits of the type count; means of 16s still have the bias of the samples.
 #pragma once
 
-#include "frame/vec_arith.h"
-#include "frame/vec_convert.h"
-#include "frame/vec_square.h"
+#include "frame/vec/vec.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::filter {
+
+// Adds to 16s samples what makes every sum non-negative.
+template <class T>
+inline constexpr uint32_t boxBias = std::is_same_v<T, int16_t> ? 32768 : 0;
 
 // 8u up to this mask area: by multiplication and shift.
 inline constexpr int32_t boxIntegerArea = 8100;
@@ -54,7 +56,7 @@ struct BoxMeanNarrow {
     explicit BoxMeanNarrow(BoxFactor f)
         : factor(Set<uint16_t>(static_cast<uint16_t>(f.shift < 16 ? f.factor << (16 - f.shift) : f.factor))),
           shift(f.shift < 16 ? 0 : f.shift - 16) {}
-    PXL_INLINE Vec<uint16_t> operator()(Vec<uint16_t> sum) const { return MultiplyHigh(sum, factor) >> shift; }
+    PXL_INLINE Vec<uint16_t> operator()(Vec<uint16_t> sum) const { return MulHigh(sum, factor) >> shift; }
 };
 
 PXL_INLINE Vec<float> boxProduct(Vec<uint32_t> sum, Vec<float> reciprocal) {
@@ -75,6 +77,11 @@ struct BoxMeanFloat {
     }
 };
 
+// trunc(v + added), the sum in double precision.
+PXL_INLINE Vec<uint32_t> truncateSum(Vec<float> v, Vec<double> added) {
+    return BitCast<uint32_t>(TruncateToInt(PromoteLowerToDouble(v) + added, PromoteUpperToDouble(v) + added));
+}
+
 // 16u, and 16s of four channels: a fraction is added to the single-precision product in double precision.
 template <class T>
 struct BoxMeanDouble {
@@ -84,7 +91,7 @@ struct BoxMeanDouble {
     explicit BoxMeanDouble(float r) : reciprocal(Set<float>(r)) {}
     PXL_INLINE Vec<uint32_t> operator()(Vec<uint32_t> sum) const {
         constexpr double added = std::is_same_v<T, uint16_t> ? 0.5000001 : 9.0e-6;
-        return BitCast<uint32_t>(TruncateSumInDouble(boxProduct(sum, reciprocal), Set<double>(added)));
+        return truncateSum(boxProduct(sum, reciprocal), Set<double>(added));
     }
 };
 
@@ -115,4 +122,4 @@ struct BoxMean32f {
     PXL_INLINE Vec<float> operator()(Vec<float> sum) const { return sum * reciprocal; }
 };
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter

@@ -6,19 +6,25 @@
 // target. Results are transposed back where they are stored.
 #pragma once
 
-#include "filter/box_window.h"
-#include "frame/vec_square.h"
+#include "filter/box_means.h"
+#include "filter/squares.h"
+#include "frame/vec/convert.h"
+#include "window/rows.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::filter {
+
+using window::byBytes;
 
 // Column sums in lanes of type Sum: modulo 2^16 or 2^32, or floats.
 template <class T, class Sum>
 class BoxColumns {
 public:
     static constexpr int side = squareSide<Sum>;
+    const window::Windows<T> w;
 
     // `margin`: how far behind the results of a row the windows of its last square may reach; there the table has zeros.
-    BoxColumns(const BoxWindow<T>& window, ptrdiff_t margin) : w(window), tableColumns(w.outputs + margin + side) {}
+    BoxColumns(const window::Windows<T>& windows, ptrdiff_t margin)
+        : w(windows), tableColumns(w.outputs + margin + side) {}
 
     // The table, and column sums for a whole number of vectors.
     ptrdiff_t scratchBytes() const {
@@ -51,10 +57,10 @@ public:
         for (; ready < columns; ready += side) {
             const ptrdiff_t x = ready < lastSquare() ? ready : lastSquare();
             const T* leaving = w.row(first) + x;
-            const T* entering = leaving + w.height * w.step;
+            const T* entering = byBytes(leaving, w.height * w.step);
             Vec<Sum> sums = sumsOfFirst(x), square[side];
 #pragma GCC unroll 16
-            for (int j = 0; j < side; ++j, leaving += w.step, entering += w.step) {
+            for (int j = 0; j < side; ++j, leaving = byBytes(leaving, w.step), entering = byBytes(entering, w.step)) {
                 square[j] = sums;
                 sums = sums + (samples(entering) - samples(leaving));
             }
@@ -84,9 +90,9 @@ private:
             const T* leaving = w.row(first) + x;
             Vec<Sum> sums = sumsOfFirst(x), square[side];
 #pragma GCC unroll 1
-            for (int j = 0; j < side; ++j, leaving += w.step) {
+            for (int j = 0; j < side; ++j, leaving = byBytes(leaving, w.step)) {
                 square[j] = sums;
-                if (j < updates) sums = sums + (fewSamples(leaving + w.height * w.step) - fewSamples(leaving));
+                if (j < updates) sums = sums + (fewSamples(byBytes(leaving, w.height * w.step)) - fewSamples(leaving));
             }
             finishSquare(x, square, sums);
         }
@@ -96,15 +102,15 @@ private:
         if constexpr (std::is_same_v<T, Sum>)
             return LoadU(p);
         else
-            return LoadPromoteInt<Sum>(p);
+            return LoadPromote<Sum>(p);
     }
     // The same where rows may be shorter than a vector.
     PXL_INLINE Vec<Sum> fewSamples(const T* p) const {
         if (w.columns >= side) return samples(p);
         if constexpr (std::is_same_v<T, Sum>)
-            return LoadFew<side>(p, w.columns);
+            return LoadN<side>(p, w.columns);
         else
-            return PromoteFirst<Sum>(LoadFew<side>(p, w.columns));
+            return PromoteTo<Sum>(LoadN<side>(p, w.columns));
     }
 
     template <int Vectors>
@@ -112,12 +118,11 @@ private:
         Vec<Sum> sum[Vectors];
         for (auto& s : sum) s = Set<Sum>(static_cast<Sum>(boxBias<T> * static_cast<uint32_t>(w.height)));
         const T* p = w.row(y) + x;
-        for (int j = 0; j < w.height; ++j, p += w.step)
+        for (int j = 0; j < w.height; ++j, p = byBytes(p, w.step))
             for (int v = 0; v < Vectors; ++v) sum[v] = sum[v] + (Vectors > 1 ? samples(p + v * side) : fewSamples(p));
         for (int v = 0; v < Vectors; ++v) StoreU(sum[v], columnSums + x + v * side);
     }
 
-    BoxWindow<T> w;
     ptrdiff_t tableColumns;
     Sum* columnsOfRows = nullptr; // column by column
     Sum* columnSums = nullptr;    // of the first row of the group, and of the next one where the table is ready
@@ -127,7 +132,7 @@ private:
     Vec<Sum> lastSums{}; // column sums of the last square as the group began
 };
 
-// The filter with the means of one type and mask: a worker, which ownWithWorker of box.cpp chooses.
+// The filter with the means of one type and mask: a worker (window/workers.h), which withWorker of box.cpp chooses.
 template <class T, int Elements, class Mean>
 class BoxSquares {
 public:
@@ -135,44 +140,43 @@ public:
     static constexpr int side = squareSide<Sum>;
     static constexpr int groupRows = side;
 
-    BoxSquares(const BoxWindow<T>& window, const Mean& mean)
-        : w(window), meanOf(mean), columns(window, window.width * Elements) {}
+    BoxSquares(const window::Windows<T>& windows, const Mean& mean)
+        : meanOf(mean), columns(windows, windows.width * Elements) {}
 
     ptrdiff_t scratchBytes() const { return columns.scratchBytes(); }
-    void start(void* scratch, ptrdiff_t y) { columns.start(scratch, y); }
+    void start(char* scratch, ptrdiff_t y) { columns.start(scratch, y); }
 
-    // Results of rows y ... y + rows - 1, at most groupRows.
-    void group(ptrdiff_t y, int rows, bool last, T* dst, ptrdiff_t dstStep) {
-        const ptrdiff_t reach = w.width * Elements;
+    [[gnu::noinline]] void group(ptrdiff_t y, int rows, bool last, const window::Destination<T>& dst) {
+        const ptrdiff_t reach = columns.w.width * Elements, outputs = columns.w.outputs;
         columns.startGroup(y, last ? rows - 1 : rows);
         columns.makeReady(strip + reach);
         Vec<Sum> sum[Elements];
         firstWindow(sum);
-        for (ptrdiff_t x = 0; x < w.outputs; x += strip) {
-            const ptrdiff_t n = w.outputs - x < strip ? w.outputs - x : strip;
+        for (ptrdiff_t x = 0; x < outputs; x += strip) {
+            const ptrdiff_t n = outputs - x < strip ? outputs - x : strip;
             alignas(vecBytes) T results[side * strip];
-            const bool direct = rows == side && n % side == 0 && !viaScratch(dstStep);
-            meansAlong(x, n, sum, direct ? dst + x : results, direct ? dstStep : strip);
+            const bool direct = rows == side && n % side == 0 && !viaScratch(dst);
+            meansAlong(x, n, sum, direct ? dst.base + x : results, direct ? dst.step : strip * bytes);
             columns.makeReady(x + 2 * strip + reach);
             // The results are read back after that, since loads of what has just been stored in pieces have to wait.
-            for (int j = 0; j < rows && !direct; ++j)
-                copyKeeping(results + j * strip, dst + j * dstStep + x, n, w.keepAlpha);
+            for (int j = 0; j < rows && !direct; ++j) window::copyRow<T>(results + j * strip, dst.row(j).from(x), n);
         }
     }
 
 private:
+    static constexpr ptrdiff_t bytes = sizeof(T);
     static constexpr ptrdiff_t strip = 8 * side; // as far as one pass goes: its columns stay in the first-level cache
 
     // Whether rows of results are put together before they are stored, in order to keep an alpha, or because more rows than a
     // set of the cache has lines lie all in the same set, so that a visit for every square would load their lines again.
-    bool viaScratch(ptrdiff_t dstStep) const {
-        return w.keepAlpha || (side > 8 && dstStep * static_cast<ptrdiff_t>(sizeof(T)) % 4096 == 0);
+    static bool viaScratch(const window::Destination<T>& dst) {
+        return dst.keepsAlpha || (side > 8 && dst.step % 4096 == 0);
     }
 
     void firstWindow(Vec<Sum> (&sum)[Elements]) const {
         const Sum* p = columns.table(0);
         for (auto& s : sum) s = LoadU(p), p += side;
-        for (ptrdiff_t i = 1; i < w.width; ++i)
+        for (ptrdiff_t i = 1; i < columns.w.width; ++i)
             for (auto& s : sum) s = s + LoadU(p), p += side;
     }
 
@@ -183,13 +187,13 @@ private:
         for (ptrdiff_t i = 0; i < n; i += side) {
             meansOfSquare(columns.table(x + i), sum, mean);
             constexpr Sum bias = static_cast<Sum>(boxBias<T> * 0x10001);
-            StoreSquare(mean, results + i, step * static_cast<ptrdiff_t>(sizeof(T)), Set<Sum>(bias));
+            StoreSquare(mean, results + i, step, Set<Sum>(bias));
         }
         for (int c = 0; c < Elements; ++c) sums[c] = sum[c];
     }
 
     PXL_INLINE void meansOfSquare(const Sum* leaving, Vec<Sum> (&sum)[Elements], Vec<Sum> (&mean)[side]) const {
-        const Sum* entering = leaving + w.width * Elements * side;
+        const Sum* entering = leaving + columns.w.width * Elements * side;
 #pragma GCC unroll 16
         for (int i = 0; i < side; ++i) {
             Vec<Sum>& s = sum[i % Elements];
@@ -204,9 +208,8 @@ private:
         }
     }
 
-    BoxWindow<T> w;
     Mean meanOf;
     BoxColumns<T, Sum> columns;
 };
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter

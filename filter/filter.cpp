@@ -2,23 +2,22 @@
 // 32f.
 #include "filter/linear.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::filter {
 namespace {
 
 template <class T, int Elements, int Channels>
-PxlStatus Filter(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const int32_t* kernel, ImageSize size,
-                 ImagePoint anchor, int divisor) {
-    return filterByIntegers(filtering<Elements, Channels>(src, srcStep, dst, dstStep, roi, kernel, size, anchor),
-                            divisor);
+PxlStatus Filter(Image<const T, Elements, Channels> src, Image<T, Elements, Channels> dst, ImageSize roi,
+                 const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor) {
+    return filterByIntegers<T>({src, dst, roi, kernel, kernelSize, anchor}, divisor);
 }
 
-template <class T, int Elements, int Channels>
-PxlStatus FilterFloat(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const float* kernel,
-                      ImageSize size, ImagePoint anchor) {
-    return filterFloats(filtering<Elements, Channels>(src, srcStep, dst, dstStep, roi, kernel, size, anchor));
+template <int Elements, int Channels>
+PxlStatus FilterFloat(Image<const float, Elements, Channels> src, Image<float, Elements, Channels> dst, ImageSize roi,
+                      const float* kernel, ImageSize kernelSize, ImagePoint anchor) {
+    return filterFloats({src, dst, roi, kernel, kernelSize, anchor});
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter
 
 #include "members/filter/filter.inc"

@@ -1,16 +1,16 @@
 // Convolution of integer images with a float kernel, rounded to nearest even.
 #include "filter/linear.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::filter {
 namespace {
 
 template <class T, int Elements, int Channels>
-PxlStatus Filter32f(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const float* kernel, ImageSize size,
-                    ImagePoint anchor) {
-    return filterByFloats(filtering<Elements, Channels>(src, srcStep, dst, dstStep, roi, kernel, size, anchor));
+PxlStatus Filter32f(Image<const T, Elements, Channels> src, Image<T, Elements, Channels> dst, ImageSize roi,
+                    const float* kernel, ImageSize kernelSize, ImagePoint anchor) {
+    return filterByFloats<T>({src, dst, roi, kernel, kernelSize, anchor});
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter
 
 #include "members/filter/filter_32f.inc"

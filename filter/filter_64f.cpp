@@ -1,26 +1,26 @@
 // Convolution in double precision, always on the calling thread. No buffer is needed, and the query says so.
-#include "filter/sums.h"
+#include "filter/linear.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::filter {
 namespace {
 
-PxlStatus ownFilter64f(const double* src, int srcStep, double* dst, int dstStep, ImageSize roi, const double* kernel,
-                       ImageSize size, ImagePoint anchor, uint8_t* /*buffer*/) {
-    const Filtering<double, double> f{src, srcStep, dst, dstStep, roi, kernel, size, anchor, 1, false};
-    const PxlStatus status = checkFilter(f);
+PxlStatus filter64f(Image<const double> src, Image<double> dst, ImageSize roi, const double* kernel,
+                    ImageSize kernelSize, ImagePoint anchor, uint8_t* /*buffer*/) {
+    const Operands<double, double> operands{src, dst, roi, kernel, kernelSize, anchor};
+    if (const PxlStatus status = checkLinear(operands)) return status;
+    const Filtering<double, double> f(operands);
     const SumItself itself;
-    if (status == PXL_OK) SumRows<PlainSums<double, double>, SumItself>(f, itself)(0, roi.height);
-    return status;
+    SumRows<PlainSums<double, double>, SumItself>(f, itself)(0, roi.height);
+    return PXL_OK;
 }
 
-PxlStatus ownFilterBufSize64f(ImageSize size, int roiWidth, int* result) {
-    if (!result) return PXL_E_NULL_PTR;
-    if (isEmpty(size) || roiWidth < 1) return PXL_E_SIZE;
+PxlStatus filterBufSize64f(ImageSize kernelSize, int roiWidth, int* result) {
+    if (const PxlStatus status = check(null(result), size(kernelSize), refuse(roiWidth < 1, PXL_E_SIZE))) return status;
     *result = 0;
     return PXL_OK;
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter
 
 #include "members/filter/filter_64f.inc"

@@ -2,17 +2,17 @@
 // needed.
 #include "filter/linear.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::filter {
 namespace {
 
 template <class T, int Elements, int Channels>
-PxlStatus FilterRound32f(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const float* kernel,
-                         ImageSize size, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* /*buffer*/) {
-    return filterByFloats(filtering<Elements, Channels>(src, srcStep, dst, dstStep, roi, kernel, size, anchor),
-                          roundMode);
+PxlStatus FilterRound32f(Image<const T, Elements, Channels> src, Image<T, Elements, Channels> dst, ImageSize roi,
+                         const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode mode,
+                         uint8_t* /*buffer*/) {
+    return filterByFloats<T>({src, dst, roi, kernel, kernelSize, anchor}, mode);
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter
 
 #include "members/filter/filter_round_32f.inc"

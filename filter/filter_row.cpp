@@ -1,35 +1,28 @@
 // Convolution with one row of coefficients: integers with a divisor, or floats.
 #include "filter/linear.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::filter {
 namespace {
 
-template <class T, int Elements, int Channels, class K>
-Filtering<T, K> rowFiltering(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const K* kernel, int size,
-                             int xAnchor) {
-    return filtering<Elements, Channels>(src, srcStep, dst, dstStep, roi, kernel, {size, 1}, {xAnchor, 0});
+template <class T, int Elements, int Channels>
+PxlStatus FilterRow(Image<const T, Elements, Channels> src, Image<T, Elements, Channels> dst, ImageSize roi,
+                    const int32_t* kernel, int kernelSize, int xAnchor, int divisor) {
+    return filterByIntegers<T>({src, dst, roi, kernel, {kernelSize, 1}, {xAnchor, 0}}, divisor);
+}
+
+template <int Elements, int Channels>
+PxlStatus FilterRowFloat(Image<const float, Elements, Channels> src, Image<float, Elements, Channels> dst,
+                         ImageSize roi, const float* kernel, int kernelSize, int xAnchor) {
+    return filterFloats({src, dst, roi, kernel, {kernelSize, 1}, {xAnchor, 0}});
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus FilterRow(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const int32_t* kernel, int size,
-                    int xAnchor, int divisor) {
-    return filterByIntegers(rowFiltering<T, Elements, Channels>(src, srcStep, dst, dstStep, roi, kernel, size, xAnchor),
-                            divisor);
-}
-
-template <class T, int Elements, int Channels>
-PxlStatus FilterRowFloat(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const float* kernel, int size,
-                         int xAnchor) {
-    return filterFloats(rowFiltering<T, Elements, Channels>(src, srcStep, dst, dstStep, roi, kernel, size, xAnchor));
-}
-
-template <class T, int Elements, int Channels>
-PxlStatus FilterRow32f(const T* src, int srcStep, T* dst, int dstStep, ImageSize roi, const float* kernel, int size,
-                       int xAnchor) {
-    return filterByFloats(rowFiltering<T, Elements, Channels>(src, srcStep, dst, dstStep, roi, kernel, size, xAnchor));
+PxlStatus FilterRow32f(Image<const T, Elements, Channels> src, Image<T, Elements, Channels> dst, ImageSize roi,
+                       const float* kernel, int kernelSize, int xAnchor) {
+    return filterByFloats<T>({src, dst, roi, kernel, {kernelSize, 1}, {xAnchor, 0}});
 }
 
 } // namespace
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter
 
 #include "members/filter/filter_row.inc"

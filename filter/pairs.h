@@ -11,11 +11,11 @@
 
 #include "filter/sums.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::filter {
 
 enum class Pairing { none, words, bytes };
 
-// Two taps as bytes from the pixel, and their coefficients as one word to be repeated over a register.
+// Two taps as bytes from the first one of a window, and their coefficients as one word to be repeated over a register.
 struct TapPair {
     int32_t first, second;
     uint32_t coefficients;
@@ -53,7 +53,7 @@ public:
 
     template <class T>
     TapPairs(const Filtering<T, int32_t>& f, int shift) {
-        const Coefficients all(f.kernel, int64_t{f.size.width} * f.size.height);
+        const Coefficients all(f.kernel, f.taps());
         if (!all.fit16() || all.nonZero > 2 * capacity || !offsetsFit(f)) return;
         const bool bytes = sizeof(T) == 1 && all.sumsFit16() && shift <= 16;
         pairing_ = bytes ? Pairing::bytes : Pairing::words;
@@ -69,21 +69,21 @@ public:
     const TapPair* end() const { return pairs_ + count_; }
 
 private:
+    // The largest of them; steps are positive here.
     template <class T>
     static bool offsetsFit(const Filtering<T, int32_t>& f) {
-        const auto fits = [](ptrdiff_t offset) { return offset >= INT32_MIN && offset <= INT32_MAX; };
-        return fits(f.offset(0, 0)) && fits(f.offset(f.size.width - 1, f.size.height - 1));
+        return f.windows.offset(f.windows.width - 1, f.windows.height - 1) <= INT32_MAX;
     }
 
     template <class T>
     void collect(const Filtering<T, int32_t>& f, bool bytes) {
         const int32_t* k = f.lastCoefficient();
         bool whole = true;
-        for (int j = 0; j < f.size.height; ++j)
-            for (int i = 0; i < f.size.width; ++i, --k) {
+        for (int j = 0; j < f.windows.height; ++j)
+            for (int i = 0; i < f.windows.width; ++i, --k) {
                 const int32_t coefficient = load1(k);
                 if (coefficient == 0) continue;
-                append(static_cast<int32_t>(f.offset(i, j)), static_cast<uint32_t>(coefficient), bytes, whole);
+                append(static_cast<int32_t>(f.windows.offset(i, j)), static_cast<uint32_t>(coefficient), bytes, whole);
                 whole = !whole;
             }
     }
@@ -116,11 +116,11 @@ inline constexpr int wordBlock = 4 * lanes<int32_t>;
 
 PXL_INLINE void interleave(const uint8_t* a, const uint8_t* b, Vec<int16_t> (&pairs)[4]) {
     const Vec<uint8_t> va = LoadU(a), vb = LoadU(b);
-    const Vec<uint8_t> lower = InterleaveLowerBlocks(va, vb), upper = InterleaveUpperBlocks(va, vb);
-    pairs[0] = BitCast<int16_t>(InterleaveLowerBlocks(lower, Zero<uint8_t>()));
-    pairs[1] = BitCast<int16_t>(InterleaveUpperBlocks(lower, Zero<uint8_t>()));
-    pairs[2] = BitCast<int16_t>(InterleaveLowerBlocks(upper, Zero<uint8_t>()));
-    pairs[3] = BitCast<int16_t>(InterleaveUpperBlocks(upper, Zero<uint8_t>()));
+    const Vec<uint8_t> lower = InterleaveLower(va, vb), upper = InterleaveUpper(va, vb);
+    pairs[0] = BitCast<int16_t>(InterleaveLower(lower, Zero<uint8_t>()));
+    pairs[1] = BitCast<int16_t>(InterleaveUpper(lower, Zero<uint8_t>()));
+    pairs[2] = BitCast<int16_t>(InterleaveLower(upper, Zero<uint8_t>()));
+    pairs[3] = BitCast<int16_t>(InterleaveUpper(upper, Zero<uint8_t>()));
 }
 template <class T>
 PXL_INLINE Vec<int16_t> loadSigned(const T* p) {
@@ -132,19 +132,19 @@ PXL_INLINE void interleave(const T* a, const T* b, Vec<int16_t> (&pairs)[4]) {
 #pragma GCC unroll 2
     for (int half = 0; half < 2; ++half) {
         const Vec<int16_t> va = loadSigned(a + half * lanes<T>), vb = loadSigned(b + half * lanes<T>);
-        pairs[2 * half] = InterleaveLowerBlocks(va, vb);
-        pairs[2 * half + 1] = InterleaveUpperBlocks(va, vb);
+        pairs[2 * half] = InterleaveLower(va, vb);
+        pairs[2 * half + 1] = InterleaveUpper(va, vb);
     }
 }
 
 PXL_INLINE void storeBlocks(const Vec<int32_t> (&v)[4], DestinationRow<uint8_t> d, ptrdiff_t x) {
-    const Vec<int16_t> lower = DemoteBlocks<int16_t>(v[0], v[1]), upper = DemoteBlocks<int16_t>(v[2], v[3]);
-    d.store<lanes<uint8_t>>(DemoteBlocks<uint8_t>(lower, upper), x);
+    const Vec<int16_t> lower = ReorderDemote2To<int16_t>(v[0], v[1]), upper = ReorderDemote2To<int16_t>(v[2], v[3]);
+    d.store<lanes<uint8_t>>(ReorderDemote2To<uint8_t>(lower, upper), x);
 }
 template <class T>
 PXL_INLINE void storeBlocks(const Vec<int32_t> (&v)[4], DestinationRow<T> d, ptrdiff_t x) {
-    d.template store<lanes<T>>(SaturateBlocks<T>(v[0], v[1]), x);
-    d.template store<lanes<T>>(SaturateBlocks<T>(v[2], v[3]), x + lanes<T>);
+    d.template store<lanes<T>>(ReorderDemote2To<T>(v[0], v[1]), x);
+    d.template store<lanes<T>>(ReorderDemote2To<T>(v[2], v[3]), x + lanes<T>);
 }
 
 template <class T>
@@ -158,7 +158,7 @@ PXL_INLINE void wordPairsBlock(const T* s, DestinationRow<T> d, ptrdiff_t x, con
         interleave(byBytes(s + x, tap.first), byBytes(s + x, tap.second), samples);
         const Vec<int16_t> factors = BitCast<int16_t>(Set<uint32_t>(tap.coefficients));
 #pragma GCC unroll 4
-        for (int i = 0; i < 4; ++i) sum[i] = sum[i] + BitCast<uint32_t>(MulPairsAdd(samples[i], factors));
+        for (int i = 0; i < 4; ++i) sum[i] = sum[i] + BitCast<uint32_t>(WidenMulPairwiseAdd(samples[i], factors));
     }
     Vec<int32_t> value[4], result[4];
 #pragma GCC unroll 4
@@ -185,9 +185,9 @@ public:
     PXL_INLINE Vec<uint8_t> operator()(Vec<int16_t> lower, Vec<int16_t> upper) const {
         switch (division_) {
         case Division::none:
-            return DemoteBlocks<uint8_t>(packable(lower), packable(upper));
+            return ReorderDemote2To<uint8_t>(packable(lower), packable(upper));
         case Division::shift:
-            return DemoteBlocks<uint8_t>(shifted(lower), shifted(upper));
+            return ReorderDemote2To<uint8_t>(shifted(lower), shifted(upper));
         default:
             return divided(lower, upper);
         }
@@ -205,13 +205,12 @@ private:
     }
     PXL_INLINE Vec<uint8_t> divided(Vec<int16_t> lower, Vec<int16_t> upper) const {
         const Vec<int16_t> aboveLower = above(lower), aboveUpper = above(upper);
-        const Vec<int32_t> v[4] = {BitCast<int32_t>(InterleaveLowerBlocks(lower, aboveLower)),
-                                   BitCast<int32_t>(InterleaveUpperBlocks(lower, aboveLower)),
-                                   BitCast<int32_t>(InterleaveLowerBlocks(upper, aboveUpper)),
-                                   BitCast<int32_t>(InterleaveUpperBlocks(upper, aboveUpper))};
+        const Vec<int32_t> v[4] = {
+            BitCast<int32_t>(InterleaveLower(lower, aboveLower)), BitCast<int32_t>(InterleaveUpper(lower, aboveLower)),
+            BitCast<int32_t>(InterleaveLower(upper, aboveUpper)), BitCast<int32_t>(InterleaveUpper(upper, aboveUpper))};
         Vec<int32_t> q[4];
         wide_(v, q);
-        return DemoteBlocks<uint8_t>(DemoteBlocks<int16_t>(q[0], q[1]), DemoteBlocks<int16_t>(q[2], q[3]));
+        return ReorderDemote2To<uint8_t>(ReorderDemote2To<int16_t>(q[0], q[1]), ReorderDemote2To<int16_t>(q[2], q[3]));
     }
     // The upper halves of the sums in 32 bits.
     PXL_INLINE Vec<int16_t> above(Vec<int16_t> v) const { return signed_ ? ShiftRight<15>(v) : Zero<int16_t>(); }
@@ -222,20 +221,47 @@ private:
     RoundingShift<uint16_t> shifted_;
 };
 
+// Two 8-bit coefficients k0 k1, given as bytes k0 k1 k0 k1, for lanes 2i and 2i + 1: v[2i] * k0 + v[2i + 1] * k1, which
+// must fit 16 bits.
+class PairSums {
+public:
+    PXL_INLINE explicit PairSums(uint32_t coefficients) : both_(BitCast<int8_t>(Set<uint32_t>(coefficients))) {}
+    PXL_INLINE Vec<int16_t> operator()(Vec<uint8_t> v) const { return SatWidenMulPairwiseAdd(v, both_); }
+
+private:
+    Vec<int8_t> both_;
+};
+class WidenedPairSums {
+public:
+    PXL_INLINE explicit WidenedPairSums(uint32_t coefficients) {
+        const Vec<int16_t> both = BitCast<int16_t>(Set<uint32_t>(coefficients));
+        even_ = ShiftRight<8>(ShiftLeft<8>(both));
+        odd_ = ShiftRight<8>(both);
+    }
+    PXL_INLINE Vec<int16_t> operator()(Vec<uint8_t> v) const {
+        const Vec<uint16_t> words = BitCast<uint16_t>(v);
+        return BitCast<int16_t>(words & Set<uint16_t>(0xFF)) * even_ + BitCast<int16_t>(ShiftRight<8>(words)) * odd_;
+    }
+
+private:
+    Vec<int16_t> even_, odd_;
+};
+using BytePair = std::conditional_t<hasBytePairSums, PairSums, WidenedPairSums>;
+
 template <int Registers>
 PXL_INLINE void bytePairsBlock(const uint8_t* s, DestinationRow<uint8_t> d, ptrdiff_t x, const TapPairs& taps,
                                const ByteResult& result) {
     constexpr int step = lanes<uint8_t>;
     Vec<int16_t> lower[Registers] = {}, upper[Registers] = {};
     for (const TapPair& tap : taps) {
-        const BytePair product(static_cast<int32_t>(tap.coefficients));
+        const BytePair product(tap.coefficients);
         const uint8_t* a = byBytes(s + x, tap.first);
         const uint8_t* b = byBytes(s + x, tap.second);
 #pragma GCC unroll 2
         for (int r = 0; r < Registers; ++r) {
             const Vec<uint8_t> va = LoadU(a + r * step), vb = LoadU(b + r * step);
-            lower[r] = lower[r] + product(InterleaveLowerBlocks(va, vb));
-            upper[r] = upper[r] + product(InterleaveUpperBlocks(va, vb));
+            lower[r] = lower[r] + product(InterleaveLower(va, vb));
+            upper[r] = upper[r] + product(InterleaveUpper(va, vb));
         }
     }
 #pragma GCC unroll 2
@@ -255,24 +281,21 @@ PXL_INLINE void bytePairsBlock(const uint8_t* s, DestinationRow<uint8_t> d, ptrd
 
 // ---- integer kernels ------------------------------------------------------------------------------------------------
 
-template <class T, class Row>
-inline void filterByRows(const Filtering<T, int32_t>& f, const Row& row) {
-    filterRegion(f, [&](int first, int rows) { forEachRow(f, first, rows, row); });
-}
-
 // Any integer kernel, with a result that knows the divisor.
 template <class T>
-[[gnu::noinline]] void filterIntegers(const Filtering<T, int32_t>& f, const IntegerResult<T>& result) {
-    const ptrdiff_t n = f.rowElements();
+[[gnu::noinline]] void filterIntegers(const Operands<T, int32_t>& operands, const IntegerResult<T>& result) {
+    const Filtering<T, int32_t> f(operands);
+    const ptrdiff_t n = f.windows.processed;
     if (n < wordBlock) return filterBySums<IntegerSums<T>>(f, result);
     const TapPairs taps(f, result.shift());
     if (taps.pairing() == Pairing::none) return filterBySums<IntegerSums<T>>(f, result);
+    const auto byRows = [&](const auto& row) { window::forEachRowByTeam(f.windows, f.dst, row); };
     if constexpr (sizeof(T) == 1)
         if (taps.pairing() == Pairing::bytes) {
             const ByteResult byteResult(result, taps.signedBytes());
-            return filterByRows(f, [&](const T* s, DestinationRow<T> d) { bytePairsRow(n, s, d, taps, byteResult); });
+            return byRows([&](const T* s, DestinationRow<T> d) { bytePairsRow(n, s, d, taps, byteResult); });
         }
-    filterByRows(f, [&](const T* s, DestinationRow<T> d) { wordPairsRow(n, s, d, taps, result); });
+    byRows([&](const T* s, DestinationRow<T> d) { wordPairsRow(n, s, d, taps, result); });
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter

@@ -7,16 +7,12 @@
 
 #include <bit>
 
+#include "frame/ranges.h"
 #include "frame/scaling.h"
-#include "frame/vec_filter.h"
+#include "frame/vec/vec.h"
 #include "pxli.h"
 
-namespace pxl::PXL_TARGET {
-
-template <class T>
-inline constexpr int largestOf = std::is_signed_v<T> ? (1 << (8 * sizeof(T) - 1)) - 1 : (1 << 8 * sizeof(T)) - 1;
-template <class T>
-inline constexpr int smallestOf = std::is_signed_v<T> ? -largestOf<T> - 1 : 0;
+namespace pxl::PXL_TARGET::filter {
 
 // ---- floats ---------------------------------------------------------------------------------------------------------
 
@@ -55,14 +51,36 @@ private:
 
     // Max gives its second operand for NaN, which is 0 for unsigned types.
     PXL_INLINE static Vec<float> saturated(Vec<float> v) {
-        if constexpr (smallestOf<T> < 0) v = IfThenElseZero(v == v, v);
-        return Min(Max(v, Set<float>(smallestOf<T>)), Set<float>(largestOf<T>));
+        if constexpr (lowestOf<T> < 0) v = IfThenElseZero(v == v, v);
+        return Min(Max(v, Set<float>(lowestOf<T>)), Set<float>(highestOf<T>));
     }
 
     int mode_;
 };
 
 // ---- integer sums ---------------------------------------------------------------------------------------------------
+
+// Integers as doubles in two registers, and back from the lower half of every double: the lower and the upper half of
+// each block.
+struct BlockDoubles {
+    Vec<double> lower, upper;
+
+    // Below 2^52 a biased integer is a double as soon as the upper half of 2^52 stands above it.
+    PXL_INLINE explicit BlockDoubles(Vec<int32_t> v) {
+        const Vec<uint32_t> biased = BitCast<uint32_t>(v) ^ Set<uint32_t>(0x80000000);
+        const Vec<uint32_t> above = Set<uint32_t>(0x43300000);
+        const Vec<double> bias = Set<double>(0x1p52 + 0x1p31);
+        lower = BitCast<double>(InterleaveLower(biased, above)) - bias;
+        upper = BitCast<double>(InterleaveUpper(biased, above)) - bias;
+    }
+
+    // Of doubles in the range of 32s: to nearest, ties to even.
+    PXL_INLINE Vec<int32_t> nearest() const {
+        const Vec<double> unitsAtEnd = Set<double>(0x1.8p52);
+        return BitCast<int32_t>(
+            ConcatEvenBlocks(BitCast<float>(lower + unitsAtEnd), BitCast<float>(upper + unitsAtEnd)));
+    }
+};
 
 // Quotients of 32-bit integers, rounded as the exact quotient is. Their double-precision product with the reciprocal is
 // off by less than 2^-36 where it does not saturate. Multiples of 1/2 stand at least 2^-32 apart from any other
@@ -174,4 +192,4 @@ private:
     Quotients quotients_;
 };
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter

@@ -5,10 +5,11 @@
 // by side to hide the latency of the additions.
 #pragma once
 
+#include "filter/filtering.h"
 #include "filter/rounding.h"
-#include "filter/window.h"
+#include "frame/vec/convert.h"
 
-namespace pxl::PXL_TARGET {
+namespace pxl::PXL_TARGET::filter {
 
 // Float or double products in sums of the same type.
 template <class T, class L>
@@ -36,8 +37,8 @@ struct WidenedSums {
 
     PXL_INLINE static void add(Sum& sum, Vec<Lane> v, Vec<Lane> k) {
         const Vec<float> product = v * k;
-        sum.lower = sum.lower + LowerToDouble(product);
-        sum.upper = sum.upper + UpperToDouble(product);
+        sum.lower = sum.lower + PromoteLowerToDouble(product);
+        sum.upper = sum.upper + PromoteUpperToDouble(product);
     }
     PXL_INLINE static Vec<float> value(const Sum& sum) { return ConvertToFloat(sum.lower, sum.upper); }
 };
@@ -68,11 +69,11 @@ PXL_INLINE Vec<Lane> loadLanes(const T* p) {
 // n < lanes<Lane> elements, zero behind them.
 template <class Lane, class T>
 PXL_INLINE Vec<Lane> loadFewLanes(const T* p, ptrdiff_t n) {
-    const Vec<T> few = LoadFew<lanes<Lane>>(p, n);
+    const Vec<T> few = LoadN<lanes<Lane>>(p, n);
     if constexpr (sizeof(Lane) == sizeof(T))
         return BitCast<Lane>(few);
     else
-        return PromoteFirst<Lane>(few);
+        return PromoteTo<Lane>(few);
 }
 
 // Adds one row of the kernel, walked backwards from `k`, to Units vectors of sums side by side. load(p) gives a vector.
@@ -80,11 +81,11 @@ template <class Rule, int Units, class T, class K, class Load>
 PXL_INLINE void addKernelRow(const Filtering<T, K>& f, const T* p, const K* k, typename Rule::Sum (&sum)[Units],
                              const Load& load) {
     using Lane = typename Rule::Lane;
-    for (int i = f.size.width; i > 0; --i) {
+    for (int i = f.windows.width; i > 0; --i) {
         const Vec<Lane> factor = Set<Lane>(static_cast<Lane>(load1(k)));
 #pragma GCC unroll 4
         for (int u = 0; u < Units; ++u) Rule::add(sum[u], load(p + u * lanes<Lane>), factor);
-        p += f.elements;
+        p = byBytes(p, f.windows.pixelBytes);
         --k;
     }
 }
@@ -94,10 +95,10 @@ template <class Rule, int Units, class T, class K, class Load>
 PXL_INLINE void addNeighbourhood(const Filtering<T, K>& f, const T* corner, typename Rule::Sum (&sum)[Units],
                                  const Load& load) {
     const K* k = f.lastCoefficient();
-    for (int j = f.size.height; j > 0; --j) {
+    for (int j = f.windows.height; j > 0; --j) {
         addKernelRow<Rule>(f, corner, k, sum, load);
-        corner = byBytes(corner, f.srcStep);
-        k -= f.size.width;
+        corner = byBytes(corner, f.windows.step);
+        k -= f.windows.width;
     }
 }
 
@@ -119,9 +120,9 @@ template <class Rule, int Units, class T, class K>
 PXL_INLINE void addSharedRow(const Filtering<T, K>& f, const T* p, const K* k, typename Rule::Sum (&sum)[Units],
                              typename Rule::Sum (&below)[Units]) {
     using Lane = typename Rule::Lane;
-    for (int i = f.size.width; i > 0; --i) {
-        addSharedTap<Rule>(p, Set<Lane>(load1(k)), Set<Lane>(load1(k + f.size.width)), sum, below);
-        p += f.elements;
+    for (int i = f.windows.width; i > 0; --i) {
+        addSharedTap<Rule>(p, Set<Lane>(load1(k)), Set<Lane>(load1(k + f.windows.width)), sum, below);
+        p = byBytes(p, f.windows.pixelBytes);
         --k;
     }
 }
@@ -133,10 +134,10 @@ PXL_INLINE void addTwoNeighbourhoods(const Filtering<T, K>& f, const T* corner, 
     const auto load = [](const T* p) { return loadLanes<typename Rule::Lane>(p); };
     const K* k = f.lastCoefficient();
     addKernelRow<Rule>(f, corner, k, sum, load);
-    for (int j = f.size.height;; --j) {
-        corner = byBytes(corner, f.srcStep);
+    for (int j = f.windows.height;; --j) {
+        corner = byBytes(corner, f.windows.step);
         if (j == 1) break;
-        k -= f.size.width;
+        k -= f.windows.width;
         addSharedRow<Rule>(f, corner, k, sum, below);
     }
     addKernelRow<Rule>(f, corner, k, below, load);
@@ -154,13 +155,13 @@ PXL_INLINE void addTwoColumns(const Filtering<T, K>& f, const T* corner, typenam
     const K* k = f.lastCoefficient();
     Vec<Lane> factor = Set<Lane>(load1(k));
     addTap(corner, factor, sum);
-    for (int j = f.size.height; j > 1; --j) {
-        corner = byBytes(corner, f.srcStep);
+    for (int j = f.windows.height; j > 1; --j) {
+        corner = byBytes(corner, f.windows.step);
         const Vec<Lane> factorBelow = factor;
         factor = Set<Lane>(load1(--k));
         addSharedTap<Rule>(corner, factor, factorBelow, sum, below);
     }
-    addTap(byBytes(corner, f.srcStep), factor, below);
+    addTap(byBytes(corner, f.windows.step), factor, below);
 }
 
 // Stores Units vectors of saturated results at x.
@@ -168,13 +169,14 @@ template <int Units, class T>
 PXL_INLINE void storeResults(const Vec<int32_t> (&v)[Units], DestinationRow<T> d, ptrdiff_t x) {
     constexpr int unit = lanes<int32_t>;
     if constexpr (Units == 4 && sizeof(T) == 1) {
-        d.template store<lanes<T>>(Demote4<T>(v[0], v[1], v[2], v[3]), x);
+        d.template store<lanes<T>>(OrderedDemote4To<T>(v[0], v[1], v[2], v[3]), x);
     } else if constexpr (Units > 1 && sizeof(T) == 2) {
 #pragma GCC unroll 2
-        for (int u = 0; u < Units; u += 2) d.template store<lanes<T>>(Demote2<T>(v[u], v[u + 1]), x + u * unit);
+        for (int u = 0; u < Units; u += 2)
+            d.template store<lanes<T>>(OrderedDemote2To<T>(v[u], v[u + 1]), x + u * unit);
     } else {
 #pragma GCC unroll 2
-        for (int u = 0; u < Units; ++u) d.template store<unit>(DemoteFirst<T>(v[u]), x + u * unit);
+        for (int u = 0; u < Units; ++u) d.template store<unit>(DemoteTo<T>(v[u]), x + u * unit);
     }
 }
 
@@ -186,31 +188,28 @@ class SumRows {
     using Lane = typename Rule::Lane;
     using Sum = typename Rule::Sum;
     using Row = DestinationRow<T>;
-    using Kernel = Filtering<T, typename Rule::Coefficient>;
+    using Filter = Filtering<T, typename Rule::Coefficient>;
     static constexpr int unit = lanes<Lane>;
 
 public:
-    SumRows(const Kernel& f, const Result& result)
-        : f_(f), result_(result), corner_(f.offset(0, 0)), n_(f.rowElements()) {}
+    SumRows(const Filter& f, const Result& result) : f_(f), result_(result), n_(f.windows.processed) {}
 
     void operator()(ptrdiff_t first, ptrdiff_t rows) const {
         constexpr int units = Rule::unitsOfTwoRows;
         if constexpr (units > 0)
-            if (n_ >= units * unit && f_.size.height > 1)
+            if (n_ >= units * unit && f_.windows.height > 1)
                 for (; rows >= 2; rows -= 2, first += 2) {
-                    const auto two = f_.size.width == 1 ? &SumRows::twoRows<true> : &SumRows::twoRows<false>;
-                    (this->*two)(byBytes(f_.src, first * f_.srcStep), f_.destinationRow(first),
-                                 f_.destinationRow(first + 1));
+                    const auto two = f_.windows.width == 1 ? &SumRows::twoRows<true> : &SumRows::twoRows<false>;
+                    (this->*two)(f_.windows.row(first), f_.dst.row(first), f_.dst.row(first + 1));
                 }
-        forEachRow(f_, first, rows, [this](const T* pixel, Row d) { oneRow(pixel, d); });
+        window::forEachRow(f_.windows, f_.dst, first, rows, [this](const T* s, Row d) { oneRow(s, d); });
     }
 
 private:
     // A copy of the geometry stays in registers, where every store might change what a reference leads to.
-    [[gnu::noinline]] void oneRow(const T* pixel, Row d) const {
-        const T* s = byBytes(pixel, corner_);
+    [[gnu::noinline]] void oneRow(const T* s, Row d) const {
         if (n_ < unit) return few(s, d);
-        const Kernel f = f_;
+        const Filter f = f_;
         if (n_ < 4 * unit)
             forEachBlockOfRow<unit>(
                 n_, [&](ptrdiff_t x) __attribute__((always_inline)) { block<1>(f, s, d, x); });
@@ -220,10 +219,9 @@ private:
     }
 
     template <bool Column>
-    [[gnu::noinline]] void twoRows(const T* pixel, Row d, Row below) const {
+    [[gnu::noinline]] void twoRows(const T* s, Row d, Row below) const {
         constexpr int units = Rule::unitsOfTwoRows;
-        const T* s = byBytes(pixel, corner_);
-        const Kernel f = f_;
+        const Filter f = f_;
         forEachBlockOfRow<units * unit>(
             n_, [&](ptrdiff_t x) __attribute__((always_inline)) {
                 Sum sum[units] = {}, sumBelow[units] = {};
@@ -237,7 +235,7 @@ private:
     }
 
     template <int Units>
-    PXL_INLINE void block(const Kernel& f, const T* s, Row d, ptrdiff_t x) const {
+    PXL_INLINE void block(const Filter& f, const T* s, Row d, ptrdiff_t x) const {
         Sum sum[Units] = {};
         addNeighbourhood<Rule>(f, s + x, sum, [](const T* p) { return loadLanes<Lane>(p); });
         finish(sum, d, x);
@@ -252,7 +250,7 @@ private:
         } else {
             Vec<int32_t> result[1];
             round(sum, result);
-            d.storeFew(DemoteFirst<T>(result[0]), n_);
+            d.storeFew(DemoteTo<T>(result[0]), n_);
         }
     }
 
@@ -276,15 +274,15 @@ private:
         result_(value, result);
     }
 
-    const Kernel& f_;
+    const Filter& f_;
     const Result& result_;
-    ptrdiff_t corner_, n_;
+    ptrdiff_t n_;
 };
 
 // The whole region, by a team where it is large enough.
-template <class Rule, class T, class K, class Result>
-inline void filterBySums(const Filtering<T, K>& f, const Result& result) {
-    filterRegion(f, SumRows<Rule, Result>(f, result));
+template <class Rule, class Result>
+inline void filterBySums(const Filtering<typename Rule::Source, typename Rule::Coefficient>& f, const Result& result) {
+    forEachStrip(f.windows.region, SumRows<Rule, Result>(f, result));
 }
 
-} // namespace pxl::PXL_TARGET
+} // namespace pxl::PXL_TARGET::filter

@@ -97,21 +97,4 @@ inline Check roundMode(PxlRoundMode mode) {
     return {mode < PXL_ROUND_ZERO || mode > PXL_ROUND_HALF_AWAY, PXL_E_ROUND_MODE};
 }
 
-// ---- for templates that take pointers and steps one by one ----------------------------------------------------------
-
-template <class... Pointer>
-inline bool anyNull(Pointer... pointers) {
-    return (... || (pointers == nullptr));
-}
-
-template <int Count, class T>
-inline bool anyPlaneNull(T* const* planes) {
-    return isNull(Planes<T, Count>{planes, 0});
-}
-
-template <class... Step>
-inline bool anyStepBelow1(Step... steps) {
-    return (... || (steps < 1));
-}
-
 } // namespace pxl::PXL_TARGET

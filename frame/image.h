@@ -51,6 +51,13 @@ struct Image<T, anyElements, anyElements> {
     }
 };
 
+// The image whose first pixel is pixel (x, y) of this one.
+template <class I>
+inline I startingAt(I image, ptrdiff_t x, ptrdiff_t y) {
+    image.base = image.at(x, y);
+    return image;
+}
+
 // Channels alike: every element a pixel of its own. The region is then so many times as wide.
 template <class T, int Elements, int Channels>
 inline Image<T> elementsOf(const Image<T, Elements, Channels>& image) {
@@ -87,5 +94,10 @@ struct Values {
         return value;
     }
 };
+
+template <class T, int Count>
+inline auto bytesOf(const Values<T, Count>& values) {
+    return Values<uint8_t, Count* static_cast<int>(sizeof(T))>{reinterpret_cast<const uint8_t*>(values.base)};
+}
 
 } // namespace pxl::PXL_TARGET

@@ -3,7 +3,7 @@
 // Pixels go through words and not through arrays of bytes, since GCC keeps an array that memcpy fills in memory.
 #pragma once
 
-#include "frame/vec.h"
+#include "frame/vec/vec.h"
 
 namespace pxl::PXL_TARGET {
 
@@ -24,7 +24,7 @@ struct WordOf {
 };
 template <>
 struct WordOf<16> {
-    using type = __m128i;
+    using type = Block;
 };
 
 // The larger word of a pixel comes first; there is no smaller one where it holds the whole pixel.

@@ -4,7 +4,7 @@
 
 #include <type_traits>
 
-#include "frame/vec.h"
+#include "frame/vec/vec.h"
 
 namespace pxl::PXL_TARGET {
 

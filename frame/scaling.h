@@ -8,7 +8,7 @@
 // its own for it.
 #pragma once
 
-#include "frame/vec_arith.h"
+#include "frame/vec/arithmetic.h"
 
 namespace pxl::PXL_TARGET {
 
@@ -44,7 +44,7 @@ public:
     }
 
     PXL_INLINE Vec<T> operator()(Vec<T> v) const {
-        const Vec<T> average = Average(v, BitCast<T>(half_));
+        const Vec<T> average = AverageRound(v, BitCast<T>(half_));
         const Vec<T> shifted = BitCast<T>(MulHigh(BitCast<uint16_t>(average), power_));
         if constexpr (sizeof(T) == 1)
             return shifted & kept_;

@@ -1,14 +1,14 @@
-// When rows are worth storing past the caches, or with their lines fetched ahead (frame/vec_stream.h).
+// When rows are worth storing past the caches, or with their lines fetched ahead (frame/vec/memory.h).
 #pragma once
 
-#include "frame/vec_stream.h"
+#include "frame/vec/memory.h"
 #include "frame/walk.h"
 
 namespace pxl::PXL_TARGET {
 
 template <class I>
 inline bool isAligned(const I& o) {
-    return (reinterpret_cast<uintptr_t>(o.base) | static_cast<uintptr_t>(o.step)) % 32 == 0;
+    return (reinterpret_cast<uintptr_t>(o.base) | static_cast<uintptr_t>(o.step)) % vecBytes == 0;
 }
 
 // Whether rows of the written operands may and should be streamed. Operands are disjoint where this is used.

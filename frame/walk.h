@@ -18,16 +18,6 @@
 
 namespace pxl::PXL_TARGET {
 
-// For templates that take pointers and steps one by one.
-template <class T>
-using Operand = Image<T, anyElements>;
-
-// An operand of `elements` elements per pixel; const T is read, T is written.
-template <class T>
-inline Operand<T> operand(T* base, int step, int elements = 1) {
-    return {base, step, static_cast<ptrdiff_t>(elements * sizeof(T))};
-}
-
 struct Extent {
     const char* begin;
     const char* end;

@@ -1,32 +1,46 @@
 /* pxlimx: image-processing primitives for 64-bit x86.
  *
- * Every function performs one operation for one pixel type and one channel layout over a region of images that the caller
- * owns. Nothing is initialised, nothing is kept between calls, and any function may be called from any thread; concurrent
- * calls are safe as long as their destinations do not overlap.
+ * Every function performs one operation for one pixel type and one channel layout over a region of images that the
+ * caller owns. Nothing is initialised, nothing is kept between calls, and any function may be called from any thread;
+ * concurrent calls are safe as long as their destinations do not overlap.
  *
  * Names: pxli + operation + _ + element types + _ + layout + mode.
  *   element types  8u 8s 16u 16s 32u 32s 32f 64f, complex 16sc 32sc 32fc, bits 1u; two codes: source, then destination
- *   layouts        C1 C3 C4 interleaved; AC4 four elements per pixel of which the first three are processed (the fourth of
- *                  the destination keeps its value); P3 P4 planar; C3C C4C one chosen channel of interleaved pixels;
+ *   layouts        C1 C3 C4 interleaved; AC4 four elements per pixel of which the first three are processed (the fourth
+ *                  of the destination keeps its value); P3 P4 planar; C3C C4C one chosen channel of interleaved pixels;
  *                  two layouts: source, then destination
- *   modes          R region, I in place, M masked (pixels whose 8u mask element is not 0), Sfs result scaled by
- *                  2 to the power of minus scaleFactor
+ *   modes          R region, I in place, M masked (pixels whose 8u mask element is not 0), Sfs result scaled by 2 to
+ *                  the power of minus scaleFactor
  *
- * Images: a pointer to the first element of the region and a step, the signed count of bytes from the start of one row to the
- * start of the next. Element c of pixel (x, y) lies at base + y * step + (x * elementsPerPixel + c) * elementSize. Planar
- * images are arrays of plane pointers that share one step. Where the pixels of an operand have a channel of interest, its
- * pointer addresses that channel of the first pixel. roiSize is the width and height in pixels of the region processed.
+ * Images: a pointer to the first element of the region and a step, the signed count of bytes from the start of one row
+ * to the start of the next. Element c of pixel (x, y) lies at base + y * step + (x * elementsPerPixel + c) *
+ * elementSize. Planar images are arrays of plane pointers that share one step. Where the pixels of an operand have a
+ * channel of interest, its pointer addresses that channel of the first pixel. roiSize is the width and height in pixels
+ * of the region processed.
  *
- * Memory: a function reads and writes only the region described: no byte past the last element of a row and none between
- * rows. In AC4, channel-of-interest and masked destinations an element that keeps its value may be stored again with the
- * value it had: the fourth elements of AC4 pixels, elements between two of the chosen channel, pixels beside masked ones. The
- * fourth element of an AC4 source is never read. Rows are processed from first to last. Where the operands of a pointwise
- * function overlap in memory, the result is that of the plain loop over each row from left to right: element by element, or
- * pixel by pixel where whole pixels are handled (masks, channel orders, AC4, borders). Filters, which read neighbours, have
- * in-place forms; their sources and destinations must not overlap otherwise.
+ * Memory: a function reads and writes only the region described: no byte past the last element of a row and none
+ * between rows. In AC4, channel-of-interest and masked destinations an element that keeps its value may be stored again
+ * with the value it had: the fourth elements of AC4 pixels, elements between two of the chosen channel, pixels beside
+ * masked ones. The fourth element of an AC4 source is never read. Rows are processed from first to last.
  *
- * Status: every function but the allocators and the version query returns a PxlStatus. Arguments are checked before anything
- * is read or written, in the order that each family states; after a negative status nothing has been written.
+ * Neighbourhoods: filters and window sums read source pixels around the region too. They make up no border: the
+ * caller's image holds these pixels, and the family says how many on each side (pxliCopyReplicateBorder and its like
+ * make them).
+ * Linear filters mirror their kernel; windows and masks are not mirrored.
+ *
+ * Overlap: where the operands of a pointwise function overlap in memory, the result is that of the plain loop over each
+ * row from left to right: element by element, or pixel by pixel where whole pixels are handled (masks, channel orders,
+ * AC4, borders). The destination of a filter or window sum must not overlap its source, with what is read around it;
+ * only members made to work in place (I) take the same region for both.
+ *
+ * Numbers: results are the same bits on every processor, given the default floating-point environment: round to
+ * nearest, no exceptions trapped, no flushing of subnormal numbers to zero. Integer families compute in floating point,
+ * too, so another environment in the calling thread may change any result.
+ *
+ * Threads: a function runs on the calling thread, unless its family says that it splits its work over a team.
+ *
+ * Status: every function but the allocators and the version query returns a PxlStatus. Arguments are checked before
+ * anything is read or written, in the order that each family states; after a negative status nothing has been written.
  */
 #ifndef PXLI_H
 #define PXLI_H
@@ -35,7 +49,7 @@
 
 #include "pxl_linkage.h"
 
-/* ---- Types ------------------------------------------------------------------------------------------------------------ */
+/* ---- Types ------------------------------------------------------------------------------------------------------- */
 
 typedef int32_t PxlStatus;
 
@@ -73,14 +87,14 @@ typedef struct {
 } Pxl32fc;
 
 typedef struct {
-    int32_t major;
-    int32_t minor;
-    int32_t buildMajor;
+    int32_t major;           /* the version: 5 of 5.3 */
+    int32_t minor;           /* 3 of 5.3 */
+    int32_t buildMajor;      /* the build, within the version */
     int32_t buildNumber;
-    char cpuCode[4];
-    const char* libraryName;
-    const char* versionText;
-    const char* buildDate;
+    char cpuCode[4];         /* "mx" and two zero bytes: for every 64-bit x86 processor */
+    const char* libraryName; /* the name of the DLL, on other platforms too */
+    const char* versionText; /* version and build in words: "5.3 build 85.13" */
+    const char* buildDate;   /* 11 characters, month, day and year: "Oct  8 2007" */
 } LibVersion;
 
 typedef int32_t PxlRoundMode;
@@ -97,49 +111,56 @@ enum {
     PXL_AXIS_BOTH = 2        /* rotation by 180 degrees */
 };
 
-/* ---- Status codes: 0 success, negative errors (nothing was written), positive warnings (the result is complete) -------- */
+/* ---- Status codes ------------------------------------------------------------------------------------------------ */
 
+/* 0 success, negative errors (nothing was written), positive warnings (the result is complete). Behind a code stand in
+ * brackets the families that return it; without them, it is kept for families to come. */
 enum {
-    PXL_OK = 0,
+    PXL_OK = 0,                        /* the result is complete */
     PXL_W_NO_OPERATION = 1,            /* the mapped region is empty */
     PXL_W_SQRT_NEGATIVE = 3,           /* the square root of a negative element was asked for */
-    PXL_W_DIV_BY_ZERO = 6,             /* at least one element was divided by zero */
+    PXL_W_DIV_BY_ZERO = 6,             /* at least one element was divided by zero (Div, Div_Round) */
     PXL_W_NOT_PARALLELOGRAM = 28,      /* the quadrangle of an affine transform is no parallelogram */
     PXL_W_NO_INTERSECTION = 29,        /* the source region begins outside the source image */
     PXL_W_NO_OVERLAP = 30,             /* the transformed source does not meet the destination region */
     PXL_E_BAD_ARG = -5,                /* a numeric argument outside its domain */
-    PXL_E_SIZE = -6,                   /* a width, height or length below 1 */
+    PXL_E_SIZE = -6,                   /* a width, height or length below 1 (every family) */
     PXL_E_RANGE = -7,                  /* a lower bound above its upper bound */
-    PXL_E_NULL_PTR = -8,               /* a required pointer is null */
-    PXL_E_MEM_ALLOC = -9,              /* scratch or object memory could not be allocated */
-    PXL_E_DIV_BY_ZERO = -10,           /* a constant divisor is zero */
+    PXL_E_NULL_PTR = -8,               /* a required pointer is null (every family) */
+    PXL_E_MEM_ALLOC = -9,              /* scratch or object memory could not be allocated (Convert, FilterBox,
+                                          SumWindowColumn) */
+    PXL_E_DIV_BY_ZERO = -10,           /* a constant divisor is zero (DivC) */
     PXL_E_OUT_OF_RANGE = -11,          /* an argument outside its allowed range */
-    PXL_E_SCALE_RANGE = -13,           /* vMax - vMin <= 0 */
-    PXL_E_STEP = -14,                  /* a row step below 1, or below the minimum that the family states */
+    PXL_E_SCALE_RANGE = -13,           /* vMax - vMin <= 0 (Scale) */
+    PXL_E_STEP = -14,                  /* a row step below 1, or below the minimum that the family states (every
+                                          family but Copy, CopyManaged, Set, Dup, Mirror, Transpose, AddC, SubC,
+                                          MulC, FilterGetBufSize, SumWindowRow, SumWindowColumn) */
     PXL_E_FFT_ORDER = -15,             /* a transform order outside 0..30 */
     PXL_E_FFT_FLAG = -16,              /* an unknown normalisation flag */
     PXL_E_CONTEXT = -17,               /* a prepared object of another kind */
     PXL_E_THRESHOLD = -18,             /* a lower threshold above its upper threshold */
     PXL_E_MOMENT_ZERO = -20,           /* the zeroth moment is zero */
-    PXL_E_MIRROR_AXIS = -21,           /* an axis other than 0, 1 or 2 */
+    PXL_E_MIRROR_AXIS = -21,           /* an axis other than 0, 1 or 2 (Mirror) */
     PXL_E_INTERPOLATION = -22,         /* an interpolation that the function does not accept */
     PXL_E_RESIZE_FACTOR = -23,         /* a resize factor outside its range */
     PXL_E_RESAMPLE_LENGTH = -26,       /* a row-resampling length below 1 */
     PXL_E_RESAMPLE_INDEX = -28,        /* a row-resampling start outside its row */
     PXL_E_RESAMPLE_SIZE = -29,         /* a row-resampling size below 1 */
-    PXL_E_MASK_SIZE = -33,             /* a mask or kernel size that is not accepted */
-    PXL_E_ANCHOR = -34,                /* an anchor outside its mask */
+    PXL_E_MASK_SIZE = -33,             /* a mask or kernel size that is not accepted (FilterBox, SumWindowRow,
+                                          SumWindowColumn) */
+    PXL_E_ANCHOR = -34,                /* an anchor outside its mask (FilterBox, SumWindowRow, SumWindowColumn) */
     PXL_E_EPS = -36,                   /* a negative tolerance */
     PXL_E_STEP_BORDER = -37,           /* a step too small for the region and the border that is read */
     PXL_E_CHANNEL = -47,               /* a channel index outside the state's channels */
     PXL_E_ALPHA_TYPE = -50,            /* an unknown alpha-compositing operation */
-    PXL_E_DIVISOR = -51,               /* an integer divisor of 0 */
+    PXL_E_DIVISOR = -51,               /* an integer divisor of 0 (Filter, Filter_Round16s, Filter_Round32s,
+                                          FilterRow, FilterColumn) */
     PXL_E_CHANNEL_COUNT = -53,         /* a channel count other than 1, 3 or 4 */
     PXL_E_DEGENERATE_TRANSFORM = -56,  /* singular transform coefficients */
     PXL_E_WARP_SIZE = -57,             /* a warp source smaller than 2 pixels, or a rectangle smaller than 1 */
     PXL_E_QUAD = -58,                  /* a degenerate quadrangle */
     PXL_E_ZERO_MASK = -59,             /* a structuring element without a non-zero byte */
-    PXL_E_CHANNEL_ORDER = -60,         /* an entry of a channel order out of range */
+    PXL_E_CHANNEL_ORDER = -60,         /* an entry of a channel order out of range (SwapChannels) */
     PXL_E_LUT_LEVELS = -106,           /* a lookup table with fewer than 2 levels */
     PXL_E_HIST_LEVELS = -107,          /* a histogram with fewer than 2 levels */
     PXL_E_STEP_ALIGN = -108,           /* a step that is not a multiple of 4 bytes */
@@ -147,28 +168,33 @@ enum {
     PXL_E_RESIZE_TOO_SMALL = -201,     /* a destination below half a pixel */
     PXL_E_WEIGHT = -211,               /* a centre weight below 1 */
     PXL_E_DECIMATE_FRACTION = -212,    /* an unknown decimation fraction */
-    PXL_E_ROUND_MODE = -213,           /* a rounding mode other than 0, 1 or 2 */
+    PXL_E_ROUND_MODE = -213,           /* a rounding mode other than 0, 1 or 2 (Div_Round, Filter_Round16s,
+                                          Filter_Round32s, Filter_Round32f) */
     PXL_E_NOT_SUPPORTED_MODE = -9999   /* an enumerated mode that the function does not support */
 };
 
-/* ==== Version and image memory ========================================================================================= */
+/* ==== Version and image memory ==================================================================================== */
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * GetLibVersion (frame/version.cpp)
  *
- * The version of the library: a constant record that lives as long as the library is loaded. Every call returns the same
- * address; it cannot fail.
+ * The version of the library: a constant record that lives as long as the library is loaded. Every call returns the
+ * same address; it cannot fail.
  */
 const LibVersion* pxliGetLibVersion(void);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Malloc (frame/memory.cpp)
  *
- * A new image of width x height pixels: returns the address of its first pixel, a multiple of 32, and stores the row step in
- * *stepBytes: the row length in bytes rounded up to a multiple of 32. The pixels are not initialised.
- * stepBytes null: returns null, nothing is written. width or height < 1: stores 0 and returns null. The size step * height is a
- * signed 32-bit product; where it wraps to a value below 1, or where no memory is left, null is returned and the step stays
- * stored. AC4 images have four elements per pixel. Release the image with pxliFree.
+ * A new image of width x height pixels: returns the address of its first pixel, a multiple of 32, and stores the row
+ * step in *stepBytes: the row length in bytes rounded up to a multiple of 32. The pixels are not initialised. AC4
+ * images have four elements per pixel. Release the image with pxliFree.
+ *
+ * It fails by returning null:
+ *   stepBytes is null    nothing is written
+ *   width or height < 1  *stepBytes becomes 0
+ *   no memory is left    *stepBytes has the step; so too where step * height, a signed 32-bit product, wraps to less
+ *                        than 1
  */
 uint8_t* pxliMalloc_8u_C1(int width, int height, int* stepBytes);
 uint8_t* pxliMalloc_8u_C2(int width, int height, int* stepBytes);
@@ -206,24 +232,28 @@ Pxl32fc* pxliMalloc_32fc_C3(int width, int height, int* stepBytes);
 Pxl32fc* pxliMalloc_32fc_C4(int width, int height, int* stepBytes);
 Pxl32fc* pxliMalloc_32fc_AC4(int width, int height, int* stepBytes);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Free (frame/memory.cpp)
  *
  * Releases an image of pxliMalloc_*. A null pointer is ignored.
  */
 void pxliFree(void* block);
 
-/* ==== Data exchange ==================================================================================================== */
+/* ==== Data exchange =============================================================================================== */
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Copy (exchange/copy.cpp)
  *
  * Copies a region, bit for bit.
  *   C1R C3R C4R    every element
  *   AC4R           elements 0..2 of every pixel; element 3 of the destination keeps its value
- *   C3AC4R AC4C3R  three elements to elements 0..2 of four, and back
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1.
+ *   C3AC4R AC4C3R  three elements to elements 0..2 of four, and back; the fourth one is neither read nor changed
+ *
  * Steps are not checked: any step is honoured, 0 and negative ones included.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliCopy_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 PxlStatus pxliCopy_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -256,12 +286,17 @@ PxlStatus pxliCopy_16u_AC4C3R(const uint16_t* src, int srcStep, uint16_t* dst, i
 PxlStatus pxliCopy_32s_AC4C3R(const int32_t* src, int srcStep, int32_t* dst, int dstStep, ImageSize roiSize);
 PxlStatus pxliCopy_32f_AC4C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Copy, masked (exchange/copy_masked.cpp)
  *
- * Copies the pixels whose 8u mask element is not 0; elsewhere the destination keeps its value. AC4MR copies elements 0..2.
- * Statuses, in this order: -8 src, dst or the mask is null; -6 width or height < 1.
+ * Copies the pixels whose 8u mask element is not 0; elsewhere the destination keeps its value. AC4MR copies elements
+ * 0..2.
+ *
  * Steps are not checked: any step is honoured, 0 and negative ones included.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliCopy_8u_C1MR(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
     const uint8_t* mask, int maskStep);
@@ -304,17 +339,22 @@ PxlStatus pxliCopy_32s_AC4MR(const int32_t* src, int srcStep, int32_t* dst, int 
 PxlStatus pxliCopy_32f_AC4MR(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
     const uint8_t* mask, int maskStep);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Copy, channels and planes (exchange/copy_channels.cpp)
  *
- * Copies between interleaved, one-channel and planar images.
- *   C3CR C4CR     the addressed channel to the addressed channel
- *   C3C1R C4C1R   the addressed channel to a one-channel image
- *   C1C3R C1C4R   a one-channel image to the addressed channel; the other channels keep their values
- *   C3P3R C4P4R   element c of every pixel to plane c
- *   P3C3R P4C4R   plane c to element c of every pixel
- * Statuses, in this order: -8 src, dst or a plane is null; -6 width or height < 1.
+ * Copies between interleaved, one-channel and planar images. A pointer to interleaved pixels of which one channel is
+ * used addresses that channel of the first pixel.
+ *   C3CR C4CR    the addressed channel to the addressed channel
+ *   C3C1R C4C1R  the addressed channel to a one-channel image
+ *   C1C3R C1C4R  a one-channel image to the addressed channel; the other channels keep their values
+ *   C3P3R C4P4R  element c of every pixel to plane c
+ *   P3C3R P4C4R  plane c to element c of every pixel
+ *
  * Steps are not checked: any step is honoured, 0 and negative ones included.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer, that of a plane included, is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliCopy_8u_C3CR(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 PxlStatus pxliCopy_8u_C4CR(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -367,21 +407,31 @@ PxlStatus pxliCopy_32s_P4C4R(const int32_t* const src[4], int srcStep, int32_t* 
 PxlStatus pxliCopy_32f_P3C3R(const float* const src[3], int srcStep, float* dst, int dstStep, ImageSize roiSize);
 PxlStatus pxliCopy_32f_P4C4R(const float* const src[4], int srcStep, float* dst, int dstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * CopyManaged (exchange/copy.cpp)
  *
  * The same as pxliCopy_8u_C1R, under the name that callers with their own memory management use.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliCopyManaged_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Set (exchange/set.cpp)
  *
- * Fills a region with one value per channel: every element (C1R, C3R, C4R), elements 0..2 of every pixel (AC4R), the addressed
- * channel of every pixel (C3CR, C4CR), or the masked pixels only (MR, with the same channel rules). C3, C4 and AC4 forms take an
- * array of 3, 4 and 3 values.
- * Statuses, in this order: -8 dst, the value array or the mask is null; -6 width or height < 1. Steps are not checked.
+ * Fills a region with one value per channel; C3, C4 and AC4 members take an array of 3, 4 and 3 values.
+ *   C1R C3R C4R           every element
+ *   AC4R                  elements 0..2 of every pixel; element 3 keeps its value
+ *   C3CR C4CR             the channel that dst addresses; the others keep their values
+ *   C1MR C3MR C4MR AC4MR  the same for the pixels whose 8u mask element is not 0
+ *
+ * Steps are not checked: any step is honoured, 0 and negative ones included.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliSet_8u_C1R(uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
 PxlStatus pxliSet_8u_C3R(const uint8_t value[3], uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -453,15 +503,20 @@ PxlStatus pxliSet_32s_AC4MR(const int32_t value[3], int32_t* dst, int dstStep, I
 PxlStatus pxliSet_32f_AC4MR(const float value[3], float* dst, int dstStep, ImageSize roiSize, const uint8_t* mask,
     int maskStep);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Dup (exchange/swap_channels.cpp)
  *
  * Writes each source element to all three elements of the destination pixel.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1. Steps are not checked.
+ *
+ * Steps are not checked: any step is honoured, 0 and negative ones included.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliDup_8u_C1C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * SwapChannels (exchange/swap_channels.cpp)
  *
  * Reorders the channels of every pixel: destination channel k receives source channel dstOrder[k].
@@ -469,10 +524,25 @@ PxlStatus pxliDup_8u_C1C3R(const uint8_t* src, int srcStep, uint8_t* dst, int ds
  *   AC4R      three entries in 0..2; element 3 of the destination keeps its value
  *   C4C3R     three entries in 0..3
  *   C4IR      four entries in 0..3
- *   C3C4R     four entries: below 3 copies that source channel, 3 writes val, above 3 leaves the destination channel as it was
- * All source elements of a pixel are read before any is written.
- * Statuses, in this order: -8 src, dst or dstOrder is null; -6 width or height < 1 and -14 a step < 1 (C4IR tests the step
- * before the size; C4C3R and C3C4R test no step); -60 an entry of dstOrder outside its range (C3C4R: a negative one).
+ *   C3C4R     four entries: below 3 copies that source channel, 3 writes val, above 3 leaves the destination channel as
+ *             it was
+ *
+ * All source elements of a pixel are read before any is written. The steps of C3C4R and C4C3R members are not checked.
+ *
+ * Statuses of C3R, AC4R and C3IR members, in this order:
+ *   PXL_E_NULL_PTR       a pointer is null
+ *   PXL_E_SIZE           roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP           a step < 1
+ *   PXL_E_CHANNEL_ORDER  an entry of dstOrder outside its range
+ * Statuses of the C4IR member, in this order:
+ *   PXL_E_NULL_PTR       a pointer is null
+ *   PXL_E_STEP           a step < 1
+ *   PXL_E_SIZE           roiSize.width or roiSize.height < 1
+ *   PXL_E_CHANNEL_ORDER  an entry of dstOrder outside its range
+ * Statuses of C3C4R and C4C3R members, in this order:
+ *   PXL_E_NULL_PTR       a pointer is null
+ *   PXL_E_SIZE           roiSize.width or roiSize.height < 1
+ *   PXL_E_CHANNEL_ORDER  an entry of dstOrder outside its range (C3C4R: a negative one)
  */
 PxlStatus pxliSwapChannels_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
     const int32_t dstOrder[3]);
@@ -517,17 +587,26 @@ PxlStatus pxliSwapChannels_32s_C4C3R(const int32_t* src, int srcStep, int32_t* d
 PxlStatus pxliSwapChannels_32f_C4C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
     const int32_t dstOrder[3]);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Convert (exchange/convert.cpp)
  *
  * Converts elements to another type, keeping the value.
- * Widening and integer to 32f: exact. Integer narrowing: saturated.
- * From 32f: values at or above the destination's maximum give the maximum, values at or below its minimum the minimum; between,
- * roundMode 0 truncates toward zero, 1 rounds to nearest with ties to even, any other value rounds to nearest with ties away
- * from zero (0.5 with the value's sign is added in single precision, then truncated). NaN gives 0.
- * AC4: elements 0..2.
- * Statuses, in this order: C3 and C4 forms: -6 width < 1; then all: -8 a pointer is null; -6 width or height < 1; -14 a step < 1.
- * roundMode is never rejected.
+ *   to a wider integer or to 32f  exact
+ *   to a narrower integer         saturated
+ *   from 32f                      values at or above the destination's maximum give the maximum, those at or below its
+ *                                 minimum the minimum, NaN gives 0; between, as roundMode says
+ *
+ * roundMode: PXL_ROUND_ZERO truncates toward zero. PXL_ROUND_NEAR_EVEN rounds to nearest with ties to even: the
+ * magnitude plus 0.5, in single precision, is truncated, and is 1 less where the sum was an odd number. Any other
+ * number rounds to nearest with ties away from zero: the same sum, truncated. No roundMode is rejected.
+ *
+ * AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_SIZE      C3 and C4 members: roiSize.width < 1
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP      a step < 1
  */
 PxlStatus pxliConvert_8u16u_C1R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
 PxlStatus pxliConvert_8u16u_C3R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
@@ -618,38 +697,56 @@ PxlStatus pxliConvert_32f16u_AC4R(const float* src, int srcStep, uint16_t* dst, 
 PxlStatus pxliConvert_32f16s_AC4R(const float* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
     PxlRoundMode roundMode);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Convert, one-bit images (exchange/bits.cpp)
  *
- * Packs and unpacks one-bit images: eight pixels per byte, the first in the most significant bit. A row starts bitOffset bits
- * into its first byte; offsets above 7 count on into the following bytes.
- * 1u8u: bit 1 gives 255, bit 0 gives 0. Reads the bytes that hold the row's bits.
- * 8u1u: dithers. Each pixel, plus the error carried to it, becomes 1 when it is at or above threshold and 0 otherwise; what
- * remains (against 255 for a 1, 0 for a 0) is carried on in 13-bit fixed point with the weights 7/16 right, 3/16 below left,
- * 5/16 below, 1/16 below right, each share rounded down (R. W. Floyd and L. Steinberg, 1976); shares that leave the row are
- * dropped. Bits before the offset and behind the last pixel keep their values.
- * Scratch (8u1u): three rows of width + 4 32-bit accumulators and 12 more.
- * Statuses, in this order: 8u1u: -8 a pointer is null; -6 width or height < 1 or a negative offset; -9 no scratch memory; steps
- * are not checked. 1u8u: -8; -6 width or height < 1; -14 a step < 1; -6 a negative offset.
+ * Packs and unpacks one-bit images: eight pixels per byte, the first in the most significant bit. A row starts
+ * bitOffset bits into its first byte; offsets above 7 count on into the following bytes.
+ *
+ * 1u8u: bit 1 gives 255, bit 0 gives 0. The bytes that hold bits of the row are read.
+ *
+ * 8u1u dithers by error diffusion (R. W. Floyd and L. Steinberg, 1976). A pixel, plus the error carried to it, becomes
+ * 1 where it is at or above threshold, else 0; what remains (against 255 for a 1, 0 for a 0) is carried on in 13-bit
+ * fixed point: 7/16 to the right, 3/16 below left, 5/16 below, 1/16 below right, each share rounded down. Shares that
+ * leave the row are dropped. Bits before the offset and behind the last pixel keep their values. Steps are not checked.
+ * Scratch: 3 * width + 24 32-bit numbers.
+ *
+ * Statuses of 8u1u, in this order:
+ *   PXL_E_NULL_PTR   a pointer is null
+ *   PXL_E_SIZE       roiSize.width or roiSize.height < 1, or dstBitOffset < 0
+ *   PXL_E_MEM_ALLOC  there is no memory for the scratch
+ * Statuses of 1u8u, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      srcBitOffset < 0
  */
 PxlStatus pxliConvert_8u1u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, int dstBitOffset,
     ImageSize roiSize, uint8_t threshold);
 PxlStatus pxliConvert_1u8u_C1R(const uint8_t* src, int srcStep, int srcBitOffset, uint8_t* dst, int dstStep,
     ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Scale (exchange/scale.cpp)
  *
- * Maps the whole range of the source type linearly onto the whole range of the destination type; 32f stands for the range
- * vMin..vMax.
- *   8u32f              dst = src * ((vMax - vMin) / 255) + vMin, in single precision
- *   32f8u              x >= vMax or NaN gives 255, x <= vMin gives 0; between, with k = 255 / (vMax - vMin):
- *                      x * k + (0 - k) * vMin + 0.5 in single precision, truncated, a tie to even
+ * Maps the whole range of the source type linearly onto the whole range of the destination type; 32f stands for the
+ * range vMin..vMax.
  *   8u16u 8u16s 8u32s  exact: 257 * src, 257 * src - 32768, 16843009 * src - 2147483648
- *   16u8u 16s8u 32s8u  (src - minimum) / 257 (32s: / 16843009) rounded to nearest; the result does not depend on hint
- * AC4: elements 0..2.
- * Statuses, in this order: 32f members: -13 vMax - vMin <= 0; then C3 and C4 forms: -6 width < 1; then all: -8 a pointer is null;
- * -6 width or height < 1; -14 a step < 1.
+ *   16u8u 16s8u 32s8u  (src - minimum) / 257 (32s: / 16843009) rounded to nearest, which leaves no ties
+ *   8u32f              src * ((vMax - vMin) / 255) + vMin, in single precision
+ *   32f8u              src * k + (0 - k) * vMin + 0.5 with k = 255 / (vMax - vMin), all in single precision, truncated,
+ *                      and 1 less where the sum was an odd number (ties to even); src >= vMax and NaN give 255, src <=
+ *                      vMin gives 0
+ *
+ * hint may be any number and changes nothing: there is one result, the exact one. AC4: elements 0..2; element 3 of the
+ * destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_SCALE_RANGE  32f members: vMax - vMin <= 0
+ *   PXL_E_SIZE         C3 and C4 members: roiSize.width < 1
+ *   PXL_E_NULL_PTR     a pointer is null
+ *   PXL_E_SIZE         roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP         a step < 1
  */
 PxlStatus pxliScale_8u16u_C1R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
 PxlStatus pxliScale_8u16u_C3R(const uint8_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize);
@@ -693,13 +790,22 @@ PxlStatus pxliScale_32f8u_C4R(const float* src, int srcStep, uint8_t* dst, int d
 PxlStatus pxliScale_32f8u_AC4R(const float* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize, float vMin,
     float vMax);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * CopyConstBorder (exchange/border.cpp)
  *
- * Copies a source region of srcSize pixels into a destination region of dstSize pixels, borderTop rows down and borderLeft
- * pixels to the right, and fills the margin around it with one value per channel. AC4: elements 0..2, in the margin too.
- * Statuses, in this order: -8 src or dst is null; -14 a step < 1; -6 a width or height < 1, a negative border, or a destination
- * smaller than border + source; -8 the value array (C3, C4, AC4) is null.
+ * Copies a source region of srcSize pixels into a destination region of dstSize pixels and fills the margin around it
+ * with one value per channel: a number for C1, an array of 3 for C3 and AC4, of 4 for C4. dstSize is the size of the
+ * whole destination: the source region lies borderTop rows below its first row and borderLeft pixels to the right of
+ * its first column; what is left over on the right and below is margin too.
+ *
+ * AC4: elements 0..2, in the margin too.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  src or dst is null
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      a width or height of srcSize or dstSize < 1, a negative border, or dstSize smaller than border +
+ *                   source
+ *   PXL_E_NULL_PTR  the array of values is null
  */
 PxlStatus pxliCopyConstBorder_8u_C1R(const uint8_t* src, int srcStep, ImageSize srcSize, uint8_t* dst, int dstStep,
     ImageSize dstSize, int borderTop, int borderLeft, uint8_t value);
@@ -734,14 +840,22 @@ PxlStatus pxliCopyConstBorder_32s_C4R(const int32_t* src, int srcStep, ImageSize
 PxlStatus pxliCopyConstBorder_32s_AC4R(const int32_t* src, int srcStep, ImageSize srcSize, int32_t* dst, int dstStep,
     ImageSize dstSize, int borderTop, int borderLeft, const int32_t value[3]);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * CopyReplicateBorder (exchange/border.cpp)
  *
- * As pxliCopyConstBorder, with the margin filled with the nearest pixel of the source region. In place (IR), src points at the
- * source region inside the destination buffer, which begins borderTop rows above and borderLeft pixels to its left; only the
- * margin is written.
- * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 a width or height < 1, a negative border, or a destination
- * smaller than border + source.
+ * Copies a source region of srcSize pixels into a destination region of dstSize pixels and fills the margin around it
+ * with the nearest pixel of the source region. dstSize is the size of the whole destination: the source region lies
+ * borderTop rows below its first row and borderLeft pixels to the right of its first column; what is left over on the
+ * right and below is margin too.
+ *
+ * In place (I), src points at the source region inside the destination region, which begins borderTop rows above and
+ * borderLeft pixels to its left; only the margin is written. AC4: elements 0..2, in the margin too.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      a width or height of srcSize or dstSize < 1, a negative border, or dstSize smaller than border +
+ *                   source
  */
 PxlStatus pxliCopyReplicateBorder_8u_C1R(const uint8_t* src, int srcStep, ImageSize srcSize, uint8_t* dst, int dstStep,
     ImageSize dstSize, int borderTop, int borderLeft);
@@ -808,25 +922,35 @@ PxlStatus pxliCopyReplicateBorder_32s_C4IR(int32_t* src, int srcDstStep, ImageSi
 PxlStatus pxliCopyReplicateBorder_32s_AC4IR(int32_t* src, int srcDstStep, ImageSize srcSize, ImageSize dstSize,
     int borderTop, int borderLeft);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * CopyWrapBorder (exchange/border.cpp)
  *
  * As pxliCopyReplicateBorder, with the source region repeated periodically in the margin, as often as its width needs.
  * The 32s members move 32-bit elements of any kind.
- * Statuses: those of pxliCopyReplicateBorder.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      a width or height of srcSize or dstSize < 1, a negative border, or dstSize smaller than border +
+ *                   source
  */
 PxlStatus pxliCopyWrapBorder_32s_C1R(const int32_t* src, int srcStep, ImageSize srcSize, int32_t* dst, int dstStep,
     ImageSize dstSize, int borderTop, int borderLeft);
 PxlStatus pxliCopyWrapBorder_32s_C1IR(int32_t* src, int srcDstStep, ImageSize srcSize, ImageSize dstSize, int borderTop,
     int borderLeft);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Mirror (exchange/mirror.cpp)
  *
- * Reflects a region: PXL_AXIS_HORIZONTAL reverses the order of rows, PXL_AXIS_VERTICAL that of columns, PXL_AXIS_BOTH both.
- * Pixels are moved whole. AC4: elements 0..2 move, element 3 of every destination pixel stays.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -21 an axis other than 0, 1, 2. Steps are not
- * checked.
+ * Reflects a region: PXL_AXIS_HORIZONTAL reverses the order of rows, PXL_AXIS_VERTICAL that of columns, PXL_AXIS_BOTH
+ * both. Pixels are moved whole. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Steps are not checked: any step is honoured, 0 and negative ones included.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR     a pointer is null
+ *   PXL_E_SIZE         roiSize.width or roiSize.height < 1
+ *   PXL_E_MIRROR_AXIS  flip is not 0, 1 or 2
  */
 PxlStatus pxliMirror_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
     PxlAxis flip);
@@ -885,14 +1009,18 @@ PxlStatus pxliMirror_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, 
 PxlStatus pxliMirror_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSize, PxlAxis flip);
 PxlStatus pxliMirror_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, PxlAxis flip);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Transpose (exchange/transpose.cpp)
  *
- * Exchanges rows and columns: destination pixel (j, i) is source pixel (i, j). roiSize is the size of the source region; the
- * destination receives height x width pixels. The in-place form takes square regions only. Source and destination of the
- * out-of-place form must not overlap.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1, in place also width other than height. Steps are not
- * checked.
+ * Exchanges rows and columns: destination pixel (j, i) is source pixel (i, j). roiSize is the size of the source
+ * region; the destination receives roiSize.height x roiSize.width pixels. Source and destination must not overlap. The
+ * in-place members (I) take square regions only.
+ *
+ * Steps are not checked: any step is honoured, 0 and negative ones included.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1; in place also width other than height
  */
 PxlStatus pxliTranspose_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 PxlStatus pxliTranspose_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -919,17 +1047,24 @@ PxlStatus pxliTranspose_32s_C1IR(int32_t* srcDst, int srcDstStep, ImageSize roiS
 PxlStatus pxliTranspose_32s_C3IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliTranspose_32s_C4IR(int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* ==== Arithmetic and logic ============================================================================================= */
+/* ==== Arithmetic and logic ======================================================================================== */
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Add (arith/add_sub.cpp)
  *
- * dst = src1 + src2. In place (I), srcDst is the second source and the destination. AC4: elements 0..2.
- * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even, and
- * saturate it; 32f and 32fc compute in single precision.
- *   16u, scaleFactor >= 18: the result is 0 everywhere; then -8 is returned for a null source before anything else is tested.
- * Statuses, in this order: C3 and C4 members: -6 width < 1; then all: -8 a pointer is null; -6 width or height < 1;
- * complex members: -14 a step < 1. The steps of real members are not checked.
+ * dst = src1 + src2. In place (I), srcDst is the second source and the destination. AC4: elements 0..2; element 3 of
+ * the destination keeps its value.
+ *
+ * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even,
+ * and saturate it. scaleFactor may be any number. 32f and 32fc members compute in single precision.
+ *
+ * The steps of real members are not checked.
+ *
+ * Statuses, in this order:
+ *   PXL_E_SIZE      C3 and C4 members: roiSize.width < 1
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP      complex members: a step < 1
  */
 PxlStatus pxliAdd_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
     int dstStep, ImageSize roiSize, int scaleFactor);
@@ -1025,16 +1160,23 @@ PxlStatus pxliAdd_32fc_C1IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, in
 PxlStatus pxliAdd_32fc_C3IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliAdd_32fc_AC4IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Sub (arith/add_sub.cpp)
  *
- * dst = src2 - src1. In place (I), srcDst is the second source and the destination. AC4: elements 0..2.
- * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even, and
- * saturate it; 32f and 32fc compute in single precision.
- *   8u and 16u clamp a negative difference to 0 before scaling. 16u, scaleFactor >= 17: the result is 0 everywhere; then -8 is
- *   returned for a null source before anything else is tested.
- * Statuses, in this order: C3 and C4 members: -6 width < 1; then all: -8 a pointer is null; -6 width or height < 1;
- * complex members: -14 a step < 1. The steps of real members are not checked.
+ * dst = src2 - src1: the first source is subtracted. In place (I), srcDst is the second source and the destination.
+ * AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even,
+ * and saturate it. scaleFactor may be any number. 8u and 16u clamp a negative difference to 0 before scaling. 32f and
+ * 32fc members compute in single precision.
+ *
+ * The steps of real members are not checked.
+ *
+ * Statuses, in this order:
+ *   PXL_E_SIZE      C3 and C4 members: roiSize.width < 1
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP      complex members: a step < 1
  */
 PxlStatus pxliSub_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
     int dstStep, ImageSize roiSize, int scaleFactor);
@@ -1130,15 +1272,21 @@ PxlStatus pxliSub_32fc_C1IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, in
 PxlStatus pxliSub_32fc_C3IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliSub_32fc_AC4IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Mul (arith/mul.cpp)
  *
- * dst = src1 * src2. In place (I), srcDst is the second source and the destination. AC4: elements 0..2.
- * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even, and
- * saturate it; 32f and 32fc compute in single precision.
- *   16u, scaleFactor >= 33: the result is 0 everywhere; then -8 is returned for a null source before anything else is tested.
- * Statuses, in this order: C3 and C4 members: -6 width < 1; then all: -8 a pointer is null; -6 width or height < 1;
- * complex members: -14 a step < 1. The steps of real members are not checked.
+ * dst = src1 * src2. In place (I), srcDst is the second source and the destination. AC4: elements 0..2; element 3 of
+ * the destination keeps its value.
+ *
+ * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even,
+ * and saturate it. scaleFactor may be any number. 32f members compute in single precision.
+ *
+ * Steps are not checked: any step is honoured, 0 and negative ones included.
+ *
+ * Statuses, in this order:
+ *   PXL_E_SIZE      C3 and C4 members: roiSize.width < 1
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliMul_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
     int dstStep, ImageSize roiSize, int scaleFactor);
@@ -1201,14 +1349,22 @@ PxlStatus pxliMul_32f_C3IR(const float* src, int srcStep, float* srcDst, int src
 PxlStatus pxliMul_32f_C4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliMul_32f_AC4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Mul, complex (arith/mul_complex.cpp)
  *
- * dst = src1 * src2 of complex elements: with a + bi and c + di the real part is a*c - b*d, the imaginary part a*d + b*c.
- * The products of integer members are exact; a 16sc imaginary sum of 2^31 counts as 2^31 - 1. Each part is scaled, rounded to
- * nearest even and saturated by itself; 16sc with scaleFactor < -15 gives each part's saturated sign. AC4: elements 0..2.
- * Statuses, in this order: C3 and C4 members: -6 width < 1; then all: -8 a pointer is null; -6 width or height < 1;
- * -14 a step < 1.
+ * dst = src1 * src2 of complex elements: with a + bi and c + di the real part is a*c - b*d, the imaginary part a*d +
+ * b*c. In place (I), srcDst is the second source and the destination. AC4: elements 0..2; element 3 of the destination
+ * keeps its value.
+ *
+ * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even,
+ * and saturate it. scaleFactor may be any number. Each part is scaled by itself; a 16sc imaginary part of 2^31 counts
+ * as 2^31 - 1, and a 32sc one of 2^63 as 2^63 - 1. 32fc members compute in single precision.
+ *
+ * Statuses, in this order:
+ *   PXL_E_SIZE      C3 members: roiSize.width < 1
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP      a step < 1
  */
 PxlStatus pxliMul_16sc_C1RSfs(const Pxl16sc* src1, int src1Step, const Pxl16sc* src2, int src2Step, Pxl16sc* dst,
     int dstStep, ImageSize roiSize, int scaleFactor);
@@ -1244,19 +1400,29 @@ PxlStatus pxliMul_32fc_C1IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, in
 PxlStatus pxliMul_32fc_C3IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliMul_32fc_AC4IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Div (arith/div.cpp)
  *
  * dst = src2 / src1: the first source is the divisor. In place (I), srcDst is the dividend and the destination. AC4:
- * elements 0..2.
- *   8u   src2 * 2^-scaleFactor / src1 + 0.5 in single precision, truncated, a tie to even, saturated
- *   16s  the same quotient, with 32768 added in single precision rounded to nearest even, less 32768, saturated
- *   16u  integer division with 16 fractional bits, rounded to nearest; a tie of the truncated fraction goes to even
+ * elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Sfs members scale and round the quotient q = src2 * 2^-scaleFactor / src1, and saturate it; scaleFactor may be any
+ * number.
+ *   8u   q + 0.5 in single precision, truncated, and 1 less where the sum was an odd number (ties to even)
+ *   16s  q in single precision; q + 32768 in single precision, to nearest with ties to even; less 32768
+ *   16u  with t = q * 65536 truncated: (t + (t >> 15 & 2) + 32767) >> 16, to nearest; a fraction next to 1/2 is taken
+ *        for a tie, which goes to even
  *   32f  src2 / src1 in single precision
- * A divisor of 0 gives the saturated sign of the dividend (0 for 0); 32f: infinity with the dividend's sign, the NaN 0xFFC00000
- * for 0 and NaN. The call then returns the warning 6 (PXL_W_DIV_BY_ZERO) when the whole region is done.
- * Statuses, in this order: 16u C3 and C4: -6 width < 1; then all: -8 a pointer is null; -6 width or height < 1; all but 16u: -14 a
- * step < 1; 6.
+ *
+ * A divisor of 0 gives the saturated sign of the dividend (0 for 0); 32f: infinity with the sign of the dividend, the
+ * NaN 0xFFC00000 for 0 and NaN. The steps of 16u members are not checked.
+ *
+ * Statuses, in this order:
+ *   PXL_E_SIZE         16u C3 and C4 members: roiSize.width < 1
+ *   PXL_E_NULL_PTR     a pointer is null
+ *   PXL_E_SIZE         roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP         all but 16u members: a step < 1
+ *   PXL_W_DIV_BY_ZERO  a divisor was 0; the whole region is written
  */
 PxlStatus pxliDiv_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
     int dstStep, ImageSize roiSize, int scaleFactor);
@@ -1319,15 +1485,22 @@ PxlStatus pxliDiv_32f_C3IR(const float* src, int srcStep, float* srcDst, int src
 PxlStatus pxliDiv_32f_C4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliDiv_32f_AC4IR(const float* src, int srcStep, float* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Div, complex (arith/div_complex.cpp)
  *
- * dst = src2 / src1 of complex elements: with divisor a + bi, dividend c + di and m = a*a + b*b the real part is
- * (a*c + b*d) * (f/m), the imaginary part (a*d - b*c) * (f/m).
- * 32fc: single precision, f = 1. 16sc and 32sc: double precision, f = 2^-scaleFactor, each part rounded to nearest even and
- * saturated. A zero divisor gives 0 + 0i (32fc: both parts the NaN 0xFFC00000), and the call returns the warning 6.
- * AC4: elements 0..2.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -14 a step < 1; 6.
+ * dst = src2 / src1 of complex elements: with the divisor a + bi, the dividend c + di and m = a*a + b*b the real part
+ * is (a*c + b*d) * (f/m), the imaginary part (a*d - b*c) * (f/m). In place (I), srcDst is the dividend and the
+ * destination. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * 16sc and 32sc compute in double precision with f = 2^-scaleFactor, and each part is rounded to nearest with ties to
+ * even and saturated; 32fc computes in single precision with f = 1. m = 0 gives 0 + 0i; 32fc: the NaN 0xFFC00000 in
+ * both parts.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR     a pointer is null
+ *   PXL_E_SIZE         roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP         a step < 1
+ *   PXL_W_DIV_BY_ZERO  a divisor was 0; the whole region is written
  */
 PxlStatus pxliDiv_16sc_C1RSfs(const Pxl16sc* src1, int src1Step, const Pxl16sc* src2, int src2Step, Pxl16sc* dst,
     int dstStep, ImageSize roiSize, int scaleFactor);
@@ -1363,13 +1536,22 @@ PxlStatus pxliDiv_32fc_C1IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, in
 PxlStatus pxliDiv_32fc_C3IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliDiv_32fc_AC4IR(const Pxl32fc* src, int srcStep, Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Div_Round (arith/div_round.cpp)
  *
- * dst = src2 * 2^-scaleFactor / src1 in double precision, rounded by roundMode: 0 toward zero, 1 to nearest with ties to even,
- * 2 to nearest with ties away from zero; saturated. A divisor of 0 gives the saturated sign of the dividend (0 for 0) and the
- * warning 6. AC4: elements 0..2.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -14 a step < 1; -213 roundMode not 0, 1 or 2; 6.
+ * dst = src2 * 2^-scaleFactor / src1 in double precision, rounded by roundMode and saturated: PXL_ROUND_ZERO toward
+ * zero, PXL_ROUND_NEAR_EVEN to nearest with ties to even, PXL_ROUND_HALF_AWAY to nearest with ties away from zero.
+ * scaleFactor may be any number. In place (I), srcDst is the dividend and the destination. AC4: elements 0..2; element
+ * 3 of the destination keeps its value.
+ *
+ * A divisor of 0 gives the saturated sign of the dividend (0 for 0).
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR     a pointer is null
+ *   PXL_E_SIZE         roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP         a step < 1
+ *   PXL_E_ROUND_MODE   roundMode is not 0, 1 or 2
+ *   PXL_W_DIV_BY_ZERO  a divisor was 0; the whole region is written
  */
 PxlStatus pxliDiv_Round_8u_C1RSfs(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
     int dstStep, ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
@@ -1420,13 +1602,20 @@ PxlStatus pxliDiv_Round_16s_C4IRSfs(const int16_t* src, int srcStep, int16_t* sr
 PxlStatus pxliDiv_Round_16s_AC4IRSfs(const int16_t* src, int srcStep, int16_t* srcDst, int srcDstStep,
     ImageSize roiSize, PxlRoundMode roundMode, int scaleFactor);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * AddC (arith/add_sub_c.cpp)
  *
- * dst = src + value, with one value per channel (C3 and AC4: an array of 3, C4: of 4). AC4: elements 0..2.
- * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even, and
- * saturate it; 32f and 32fc compute in single precision.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1. Steps are not checked.
+ * dst = src + value, with one value per channel: a number for C1, an array of 3 for C3 and AC4, of 4 for C4. AC4:
+ * elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even,
+ * and saturate it. scaleFactor may be any number. 32f and 32fc members compute in single precision.
+ *
+ * Steps are not checked: any step is honoured, 0 and negative ones included.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliAddC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep,
     ImageSize roiSize, int scaleFactor);
@@ -1516,14 +1705,21 @@ PxlStatus pxliAddC_32fc_C1IR(Pxl32fc value, Pxl32fc* srcDst, int srcDstStep, Ima
 PxlStatus pxliAddC_32fc_C3IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliAddC_32fc_AC4IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * SubC (arith/add_sub_c.cpp)
  *
- * dst = src - value, with one value per channel (C3 and AC4: an array of 3, C4: of 4). AC4: elements 0..2.
- * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even, and
- * saturate it; 32f and 32fc compute in single precision.
- * 8u and 16u clamp a negative difference to 0 before scaling.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1. Steps are not checked.
+ * dst = src - value, with one value per channel: a number for C1, an array of 3 for C3 and AC4, of 4 for C4. AC4:
+ * elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even,
+ * and saturate it. scaleFactor may be any number. 8u and 16u clamp a negative difference to 0 before scaling. 32f and
+ * 32fc members compute in single precision.
+ *
+ * Steps are not checked: any step is honoured, 0 and negative ones included.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliSubC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep,
     ImageSize roiSize, int scaleFactor);
@@ -1613,14 +1809,20 @@ PxlStatus pxliSubC_32fc_C1IR(Pxl32fc value, Pxl32fc* srcDst, int srcDstStep, Ima
 PxlStatus pxliSubC_32fc_C3IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliSubC_32fc_AC4IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * MulC (arith/mul_c.cpp)
  *
- * dst = src * value, with one value per channel (C3 and AC4: an array of 3, C4: of 4). AC4: elements 0..2.
- * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even, and
- * saturate it; 32f and 32fc compute in single precision.
- * Complex members give the complex product.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1. Steps are not checked.
+ * dst = src * value, with one value per channel: a number for C1, an array of 3 for C3 and AC4, of 4 for C4; complex
+ * members give the complex product, as pxliMul does. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Sfs members multiply the exact result by 2 to the power of minus scaleFactor, round it to nearest with ties to even,
+ * and saturate it. scaleFactor may be any number. 32f and 32fc members compute in single precision.
+ *
+ * Steps are not checked: any step is honoured, 0 and negative ones included.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliMulC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep,
     ImageSize roiSize, int scaleFactor);
@@ -1710,13 +1912,21 @@ PxlStatus pxliMulC_32fc_C1IR(Pxl32fc value, Pxl32fc* srcDst, int srcDstStep, Ima
 PxlStatus pxliMulC_32fc_C3IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliMulC_32fc_AC4IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * DivC (arith/div_c.cpp)
  *
- * dst = src / value, with one value per channel, rounded as pxliDiv rounds. AC4: elements 0..2.
- * 32f multiplies by the reciprocal of the value, which is formed once in single precision.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -14 a step < 1; -10 a value is 0 (complex: re*re + im*im
- * is 0).
+ * dst = src / value, with one value per channel: a number for C1, an array of 3 for C3 and AC4, of 4 for C4. AC4:
+ * elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Sfs members scale, round and saturate src * 2^-scaleFactor / value as the members of pxliDiv for the same type do;
+ * scaleFactor may be any number. 32fc divides as pxliDiv. 32f multiplies by the reciprocal of the value, formed once in
+ * single precision.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR     a pointer is null
+ *   PXL_E_SIZE         roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP         a step < 1
+ *   PXL_E_DIV_BY_ZERO  a value is 0 (a + bi: a*a + b*b is 0; 32fc: in single precision)
  */
 PxlStatus pxliDivC_8u_C1RSfs(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep,
     ImageSize roiSize, int scaleFactor);
@@ -1806,12 +2016,17 @@ PxlStatus pxliDivC_32fc_C1IR(Pxl32fc value, Pxl32fc* srcDst, int srcDstStep, Ima
 PxlStatus pxliDivC_32fc_C3IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliDivC_32fc_AC4IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * MulScale (arith/mul_scale.cpp)
  *
- * The normalised product of two full-range values: with p = src1 * src2, 8u (p + (p >> 8) + 1) >> 8, 16u
- * (p + (p >> 16) + 1) >> 16. 255 (65535) times x is x. AC4: elements 0..2.
- * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1.
+ * The normalised product of two full-range values: with p = src1 * src2, 8u (p + (p >> 8) + 1) >> 8, 16u (p + (p >> 16)
+ * + 1) >> 16. 255 (65535) times x is x. In place (I), srcDst is the second source and the destination. AC4: elements
+ * 0..2; element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliMulScale_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
     int dstStep, ImageSize roiSize);
@@ -1838,11 +2053,16 @@ PxlStatus pxliMulScale_16u_C3IR(const uint16_t* src, int srcStep, uint16_t* srcD
 PxlStatus pxliMulScale_16u_C4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliMulScale_16u_AC4IR(const uint16_t* src, int srcStep, uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * MulCScale (arith/mul_scale.cpp)
  *
- * As pxliMulScale, with one value per channel in the place of the second source.
- * Statuses: those of pxliMulScale.
+ * As pxliMulScale; in the place of the second source stands one value per channel: a number for C1, an array of 3 for
+ * C3 and AC4, of 4 for C4. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliMulCScale_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep,
     ImageSize roiSize);
@@ -1869,12 +2089,17 @@ PxlStatus pxliMulCScale_16u_C3IR(const uint16_t value[3], uint16_t* srcDst, int 
 PxlStatus pxliMulCScale_16u_C4IR(const uint16_t value[4], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliMulCScale_16u_AC4IR(const uint16_t value[3], uint16_t* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * And (arith/logical.cpp)
  *
- * dst = src1 & src2, bit by bit. AC4: elements 0..2.
- * Statuses, in this order: C3 and C4 members: -6 width < 1; then all: -8 a pointer is null; -14 a step < 1; -6 width or height
- * < 1.
+ * dst = src1 & src2, bit by bit. In place (I), srcDst is the second source and the destination. AC4: elements 0..2;
+ * element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_SIZE      C3 and C4 members: roiSize.width < 1
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliAnd_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
     int dstStep, ImageSize roiSize);
@@ -1913,11 +2138,16 @@ PxlStatus pxliAnd_32s_C3IR(const int32_t* src, int srcStep, int32_t* srcDst, int
 PxlStatus pxliAnd_32s_C4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliAnd_32s_AC4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * AndC (arith/logical.cpp)
  *
- * dst = src & value, bit by bit, with one value per channel. AC4: elements 0..2.
- * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1.
+ * dst = src & value, bit by bit, with one value per channel: a number for C1, an array of 3 for C3 and AC4, of 4 for
+ * C4. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliAndC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
 PxlStatus pxliAndC_8u_C3R(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
@@ -1955,12 +2185,17 @@ PxlStatus pxliAndC_32s_C3IR(const int32_t value[3], int32_t* srcDst, int srcDstS
 PxlStatus pxliAndC_32s_C4IR(const int32_t value[4], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliAndC_32s_AC4IR(const int32_t value[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Or (arith/logical.cpp)
  *
- * dst = src1 | src2, bit by bit. AC4: elements 0..2.
- * Statuses, in this order: C3 and C4 members: -6 width < 1; then all: -8 a pointer is null; -14 a step < 1; -6 width or height
- * < 1.
+ * dst = src1 | src2, bit by bit. In place (I), srcDst is the second source and the destination. AC4: elements 0..2;
+ * element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_SIZE      C3 and C4 members: roiSize.width < 1
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliOr_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst, int dstStep,
     ImageSize roiSize);
@@ -1999,11 +2234,16 @@ PxlStatus pxliOr_32s_C3IR(const int32_t* src, int srcStep, int32_t* srcDst, int 
 PxlStatus pxliOr_32s_C4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliOr_32s_AC4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * OrC (arith/logical.cpp)
  *
- * dst = src | value, bit by bit, with one value per channel. AC4: elements 0..2.
- * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1.
+ * dst = src | value, bit by bit, with one value per channel: a number for C1, an array of 3 for C3 and AC4, of 4 for
+ * C4. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliOrC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
 PxlStatus pxliOrC_8u_C3R(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
@@ -2040,12 +2280,17 @@ PxlStatus pxliOrC_32s_C3IR(const int32_t value[3], int32_t* srcDst, int srcDstSt
 PxlStatus pxliOrC_32s_C4IR(const int32_t value[4], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliOrC_32s_AC4IR(const int32_t value[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Xor (arith/logical.cpp)
  *
- * dst = src1 ^ src2, bit by bit. AC4: elements 0..2.
- * Statuses, in this order: C3 and C4 members: -6 width < 1; then all: -8 a pointer is null; -14 a step < 1; -6 width or height
- * < 1.
+ * dst = src1 ^ src2, bit by bit. In place (I), srcDst is the second source and the destination. AC4: elements 0..2;
+ * element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_SIZE      C3 and C4 members: roiSize.width < 1
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliXor_8u_C1R(const uint8_t* src1, int src1Step, const uint8_t* src2, int src2Step, uint8_t* dst,
     int dstStep, ImageSize roiSize);
@@ -2084,11 +2329,16 @@ PxlStatus pxliXor_32s_C3IR(const int32_t* src, int srcStep, int32_t* srcDst, int
 PxlStatus pxliXor_32s_C4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliXor_32s_AC4IR(const int32_t* src, int srcStep, int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * XorC (arith/logical.cpp)
  *
- * dst = src ^ value, bit by bit, with one value per channel. AC4: elements 0..2.
- * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1.
+ * dst = src ^ value, bit by bit, with one value per channel: a number for C1, an array of 3 for C3 and AC4, of 4 for
+ * C4. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliXorC_8u_C1R(const uint8_t* src, int srcStep, uint8_t value, uint8_t* dst, int dstStep, ImageSize roiSize);
 PxlStatus pxliXorC_8u_C3R(const uint8_t* src, int srcStep, const uint8_t value[3], uint8_t* dst, int dstStep,
@@ -2126,11 +2376,15 @@ PxlStatus pxliXorC_32s_C3IR(const int32_t value[3], int32_t* srcDst, int srcDstS
 PxlStatus pxliXorC_32s_C4IR(const int32_t value[4], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliXorC_32s_AC4IR(const int32_t value[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Not (arith/logical.cpp)
  *
- * dst = ~src. AC4: elements 0..2.
- * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1.
+ * dst = ~src. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliNot_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
 PxlStatus pxliNot_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize);
@@ -2141,12 +2395,17 @@ PxlStatus pxliNot_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliNot_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliNot_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * LShiftC (arith/shift.cpp)
  *
- * dst = src << count, with one count per channel; bits that leave the element are lost, counts from the element's width up give
- * 0. AC4: elements 0..2.
- * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1.
+ * dst = src << count, with one count per channel: a number for C1, an array of 3 for C3 and AC4, of 4 for C4. Bits that
+ * leave the element are lost; counts from the element's width up give 0. AC4: elements 0..2; element 3 of the
+ * destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliLShiftC_8u_C1R(const uint8_t* src, int srcStep, uint32_t count, uint8_t* dst, int dstStep,
     ImageSize roiSize);
@@ -2185,12 +2444,17 @@ PxlStatus pxliLShiftC_32s_C3IR(const uint32_t count[3], int32_t* srcDst, int src
 PxlStatus pxliLShiftC_32s_C4IR(const uint32_t count[4], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliLShiftC_32s_AC4IR(const uint32_t count[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * RShiftC (arith/shift.cpp)
  *
- * dst = src >> count, with one count per channel: zeros come in for unsigned types, the sign for signed ones, also for counts
- * from the element's width up. AC4: elements 0..2.
- * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1.
+ * dst = src >> count, with one count per channel: a number for C1, an array of 3 for C3 and AC4, of 4 for C4. Zeros
+ * come in for unsigned types, the sign for signed ones, also for counts from the element's width up. AC4: elements
+ * 0..2; element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
  */
 PxlStatus pxliRShiftC_8u_C1R(const uint8_t* src, int srcStep, uint32_t count, uint8_t* dst, int dstStep,
     ImageSize roiSize);
@@ -2253,23 +2517,41 @@ PxlStatus pxliRShiftC_32s_C3IR(const uint32_t count[3], int32_t* srcDst, int src
 PxlStatus pxliRShiftC_32s_C4IR(const uint32_t count[4], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliRShiftC_32s_AC4IR(const uint32_t count[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 
-/* ==== Filters ========================================================================================================== */
+/* ==== Filters ===================================================================================================== */
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Filter (filter/filter.cpp)
  *
- * True convolution with a kernel of kernelSize coefficients in row-major order: with K[j][i] the coefficient in row j, column i,
- * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j).
- * src addresses the origin of the region; the caller supplies kernelSize.width - 1 - anchor.x columns left of it, anchor.x columns
- * right of it, kernelSize.height - 1 - anchor.y rows above and anchor.y rows below. The anchor is not checked. AC4: elements 0..2.
- * 8u: divisor 1 saturates the sum; a power of two rounds to nearest even in integers; any other divisor multiplies with its
- * single-precision reciprocal and rounds to nearest even. 16s and 16u: the same, with a true division in double precision.
- * The sum must fit 32 bits.
- * 32f: products summed in single precision, neighbourhood rows from top to bottom, each from left to right.
- * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
- * not depend on the team.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernel width < 1, kernel height < 1; -51 divisor 0; -14
- * srcStep below (width + kernel width - 1) pixels, dstStep below width pixels.
+ * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j) over the kernelSize.width x kernelSize.height
+ * coefficients, which stand in row-major order: K[j][i] in row j, column i. This is true convolution, which mirrors the
+ * kernel: K[0][0] meets the pixel at the bottom right of the neighbourhood. Around the region at src are read
+ *   left   kernelSize.width - 1 - anchor.x columns
+ *   right  anchor.x columns
+ *   above  kernelSize.height - 1 - anchor.y rows
+ *   below  anchor.y rows
+ * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
+ * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
+ * at that edge of the region are not read.
+ *
+ * Integer members divide the sum S by the divisor d, round to nearest with ties to even, and saturate:
+ *   d = 1                 S itself
+ *   d = 2, 4, 8, ...      S / d in integers
+ *   other d, 8u           S in single precision times the single-precision reciprocal of d
+ *   other d, 16s and 16u  S / d in double precision
+ * A negative divisor is one of the others: unsigned members give 0 where S is positive. S is formed modulo 2^32; kernel
+ * and image must keep it within 32 bits, sign included. 32f members sum products in single precision, one after the
+ * other: rows of the neighbourhood from top to bottom, each from left to right. AC4: elements 0..2; element 3 of the
+ * destination keeps its value.
+ *
+ * Threads: regions of at least 64 x 64 pixels are split into strips of rows over a team of threads_omp_of_n_pxl
+ * threads; the result does not depend on the team.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      a width or height of roiSize or kernelSize < 1
+ *   PXL_E_DIVISOR   members with a divisor: it is 0
+ *   PXL_E_STEP      srcStep less than roiSize.width + kernelSize.width - 1 pixels, dstStep less than roiSize.width
+ *                   pixels
  */
 PxlStatus pxliFilter_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
     const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor);
@@ -2304,41 +2586,70 @@ PxlStatus pxliFilter_32f_C4R(const float* src, int srcStep, float* dst, int dstS
 PxlStatus pxliFilter_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
     const float* kernel, ImageSize kernelSize, ImagePoint anchor);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Filter, double precision (filter/filter_64f.cpp)
  *
- * True convolution with a kernel of kernelSize coefficients in row-major order: with K[j][i] the coefficient in row j, column i,
- * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j).
- * src addresses the origin of the region; the caller supplies kernelSize.width - 1 - anchor.x columns left of it, anchor.x columns
- * right of it, kernelSize.height - 1 - anchor.y rows above and anchor.y rows below. The anchor is not checked. AC4: elements 0..2.
- * Sums in double precision. buffer is not used and may be null.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernel width < 1, kernel height < 1; -14
- * srcStep below (width + kernel width - 1) pixels, dstStep below width pixels.
+ * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j) over the kernelSize.width x kernelSize.height
+ * coefficients, which stand in row-major order: K[j][i] in row j, column i. This is true convolution, which mirrors the
+ * kernel: K[0][0] meets the pixel at the bottom right of the neighbourhood. Around the region at src are read
+ *   left   kernelSize.width - 1 - anchor.x columns
+ *   right  anchor.x columns
+ *   above  kernelSize.height - 1 - anchor.y rows
+ *   below  anchor.y rows
+ * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
+ * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
+ * at that edge of the region are not read.
+ *
+ * Products are summed in double precision, in the same order as those of the 32f members of pxliFilter. buffer is not
+ * used and may be null.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  src, dst or kernel is null
+ *   PXL_E_SIZE      a width or height of roiSize or kernelSize < 1
+ *   PXL_E_STEP      srcStep less than roiSize.width + kernelSize.width - 1 pixels, dstStep less than roiSize.width
+ *                   pixels
  */
 PxlStatus pxliFilter_64f_C1R(const double* src, int srcStep, double* dst, int dstStep, ImageSize roiSize,
     const double* kernel, ImageSize kernelSize, ImagePoint anchor, uint8_t* buffer);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * FilterGetBufSize (filter/filter_64f.cpp)
  *
- * The size of the buffer of pxliFilter_64f_C1R, which is 0.
- * Statuses, in this order: -8 size is null; -6 a size < 1. *size is written on success only.
+ * Stores the size in bytes of the buffer of pxliFilter_64f_C1R, which is 0. roiWidth is the width of the region to be
+ * filtered.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  size is null
+ *   PXL_E_SIZE      kernelSize.width, kernelSize.height or roiWidth < 1
  */
 PxlStatus pxliFilterGetBufSize_64f_C1R(ImageSize kernelSize, int roiWidth, int* size);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Filter32f (filter/filter_32f.cpp)
  *
- * True convolution with a kernel of kernelSize coefficients in row-major order: with K[j][i] the coefficient in row j, column i,
- * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j).
- * src addresses the origin of the region; the caller supplies kernelSize.width - 1 - anchor.x columns left of it, anchor.x columns
- * right of it, kernelSize.height - 1 - anchor.y rows above and anchor.y rows below. The anchor is not checked. AC4: elements 0..2.
- * Products are summed in single precision, neighbourhood rows from top to bottom, each from left to right; the sum is saturated
- * and rounded to nearest even.
- * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
- * not depend on the team.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernel width < 1, kernel height < 1; -14
- * srcStep below (width + kernel width - 1) pixels, dstStep below width pixels.
+ * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j) over the kernelSize.width x kernelSize.height
+ * coefficients, which stand in row-major order: K[j][i] in row j, column i. This is true convolution, which mirrors the
+ * kernel: K[0][0] meets the pixel at the bottom right of the neighbourhood. Around the region at src are read
+ *   left   kernelSize.width - 1 - anchor.x columns
+ *   right  anchor.x columns
+ *   above  kernelSize.height - 1 - anchor.y rows
+ *   below  anchor.y rows
+ * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
+ * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
+ * at that edge of the region are not read.
+ *
+ * Products are summed in single precision, one after the other: rows of the neighbourhood from top to bottom, each from
+ * left to right; the sum is rounded to nearest with ties to even and saturated, NaN gives 0. AC4: elements 0..2;
+ * element 3 of the destination keeps its value.
+ *
+ * Threads: regions of at least 64 x 64 pixels are split into strips of rows over a team of threads_omp_of_n_pxl
+ * threads; the result does not depend on the team.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      a width or height of roiSize or kernelSize < 1
+ *   PXL_E_STEP      srcStep less than roiSize.width + kernelSize.width - 1 pixels, dstStep less than roiSize.width
+ *                   pixels
  */
 PxlStatus pxliFilter32f_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
     const float* kernel, ImageSize kernelSize, ImagePoint anchor);
@@ -2365,19 +2676,36 @@ PxlStatus pxliFilter32f_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst,
 PxlStatus pxliFilter32f_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
     const float* kernel, ImageSize kernelSize, ImagePoint anchor);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Filter_Round16s (filter/filter_round_int.cpp)
  *
- * True convolution with a kernel of kernelSize coefficients in row-major order: with K[j][i] the coefficient in row j, column i,
- * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j).
- * src addresses the origin of the region; the caller supplies kernelSize.width - 1 - anchor.x columns left of it, anchor.x columns
- * right of it, kernelSize.height - 1 - anchor.y rows above and anchor.y rows below. The anchor is not checked. AC4: elements 0..2.
- * The sum is multiplied with the single-precision reciprocal of divisor. The saturated value is rounded by roundMode: 0 toward zero, 1 to nearest even, 2 to nearest with ties away from zero. buffer is
- * not used and may be null.
- * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
- * not depend on the team.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernel width < 1, kernel height < 1; -51 divisor 0; -14
- * srcStep below (width + kernel width - 1) pixels, dstStep below width pixels; -213 roundMode not 0, 1 or 2.
+ * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j) over the kernelSize.width x kernelSize.height
+ * coefficients, which stand in row-major order: K[j][i] in row j, column i. This is true convolution, which mirrors the
+ * kernel: K[0][0] meets the pixel at the bottom right of the neighbourhood. Around the region at src are read
+ *   left   kernelSize.width - 1 - anchor.x columns
+ *   right  anchor.x columns
+ *   above  kernelSize.height - 1 - anchor.y rows
+ *   below  anchor.y rows
+ * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
+ * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
+ * at that edge of the region are not read.
+ *
+ * The sum is formed modulo 2^32; kernel and image must keep it within 32 bits, sign included. It is multiplied, in
+ * single precision, by the single-precision reciprocal of divisor, where that is not 1, and saturated and rounded by
+ * roundMode: PXL_ROUND_ZERO toward zero, PXL_ROUND_NEAR_EVEN to nearest with ties to even, PXL_ROUND_HALF_AWAY to
+ * nearest with ties away from zero. A negative divisor gives 0 where the sum is positive. buffer is not used and may be
+ * null. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Threads: regions of at least 64 x 64 pixels are split into strips of rows over a team of threads_omp_of_n_pxl
+ * threads; the result does not depend on the team.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR    src, dst or kernel is null
+ *   PXL_E_SIZE        a width or height of roiSize or kernelSize < 1
+ *   PXL_E_DIVISOR     divisor is 0
+ *   PXL_E_STEP        srcStep less than roiSize.width + kernelSize.width - 1 pixels, dstStep less than roiSize.width
+ *                     pixels
+ *   PXL_E_ROUND_MODE  roundMode is not 0, 1 or 2
  */
 PxlStatus pxliFilter_Round16s_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
     const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
@@ -2392,19 +2720,36 @@ PxlStatus pxliFilter_Round16s_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* 
     const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
     uint8_t* buffer);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Filter_Round32s (filter/filter_round_int.cpp)
  *
- * True convolution with a kernel of kernelSize coefficients in row-major order: with K[j][i] the coefficient in row j, column i,
- * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j).
- * src addresses the origin of the region; the caller supplies kernelSize.width - 1 - anchor.x columns left of it, anchor.x columns
- * right of it, kernelSize.height - 1 - anchor.y rows above and anchor.y rows below. The anchor is not checked. AC4: elements 0..2.
- * The sum is divided by divisor in double precision. The saturated value is rounded by roundMode: 0 toward zero, 1 to nearest even, 2 to nearest with ties away from zero. buffer is
- * not used and may be null.
- * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
- * not depend on the team.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernel width < 1, kernel height < 1; -51 divisor 0; -14
- * srcStep below (width + kernel width - 1) pixels, dstStep below width pixels; -213 roundMode not 0, 1 or 2.
+ * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j) over the kernelSize.width x kernelSize.height
+ * coefficients, which stand in row-major order: K[j][i] in row j, column i. This is true convolution, which mirrors the
+ * kernel: K[0][0] meets the pixel at the bottom right of the neighbourhood. Around the region at src are read
+ *   left   kernelSize.width - 1 - anchor.x columns
+ *   right  anchor.x columns
+ *   above  kernelSize.height - 1 - anchor.y rows
+ *   below  anchor.y rows
+ * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
+ * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
+ * at that edge of the region are not read.
+ *
+ * The sum is formed modulo 2^32; kernel and image must keep it within 32 bits, sign included. It is divided by divisor
+ * in double precision, saturated and rounded by roundMode: PXL_ROUND_ZERO toward zero, PXL_ROUND_NEAR_EVEN to nearest
+ * with ties to even, PXL_ROUND_HALF_AWAY to nearest with ties away from zero. A negative divisor turns the sign, so 16u
+ * members give 0 where the sum is positive. buffer is not used and may be null. AC4: elements 0..2; element 3 of the
+ * destination keeps its value.
+ *
+ * Threads: regions of at least 64 x 64 pixels are split into strips of rows over a team of threads_omp_of_n_pxl
+ * threads; the result does not depend on the team.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR    src, dst or kernel is null
+ *   PXL_E_SIZE        a width or height of roiSize or kernelSize < 1
+ *   PXL_E_DIVISOR     divisor is 0
+ *   PXL_E_STEP        srcStep less than roiSize.width + kernelSize.width - 1 pixels, dstStep less than roiSize.width
+ *                     pixels
+ *   PXL_E_ROUND_MODE  roundMode is not 0, 1 or 2
  */
 PxlStatus pxliFilter_Round32s_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
     const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
@@ -2431,19 +2776,34 @@ PxlStatus pxliFilter_Round32s_16u_AC4R(const uint16_t* src, int srcStep, uint16_
     const int32_t* kernel, ImageSize kernelSize, ImagePoint anchor, int divisor, PxlRoundMode roundMode,
     uint8_t* buffer);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * Filter_Round32f (filter/filter_round_32f.cpp)
  *
- * True convolution with a kernel of kernelSize coefficients in row-major order: with K[j][i] the coefficient in row j, column i,
- * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j).
- * src addresses the origin of the region; the caller supplies kernelSize.width - 1 - anchor.x columns left of it, anchor.x columns
- * right of it, kernelSize.height - 1 - anchor.y rows above and anchor.y rows below. The anchor is not checked. AC4: elements 0..2.
- * Single-precision products are summed in double precision; the sum is rounded to single precision. The saturated value is rounded by roundMode: 0 toward zero, 1 to nearest even, 2 to nearest with ties away from zero. buffer is
- * not used and may be null.
- * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
- * not depend on the team.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernel width < 1, kernel height < 1; -14
- * srcStep below (width + kernel width - 1) pixels, dstStep below width pixels; -213 roundMode not 0, 1 or 2.
+ * dst(x, y) = sum of K[j][i] * src(x + anchor.x - i, y + anchor.y - j) over the kernelSize.width x kernelSize.height
+ * coefficients, which stand in row-major order: K[j][i] in row j, column i. This is true convolution, which mirrors the
+ * kernel: K[0][0] meets the pixel at the bottom right of the neighbourhood. Around the region at src are read
+ *   left   kernelSize.width - 1 - anchor.x columns
+ *   right  anchor.x columns
+ *   above  kernelSize.height - 1 - anchor.y rows
+ *   below  anchor.y rows
+ * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
+ * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
+ * at that edge of the region are not read.
+ *
+ * Products are formed in single precision and summed in double precision, in the order of pxliFilter32f; the sum is
+ * rounded to single precision, saturated and rounded by roundMode: PXL_ROUND_ZERO toward zero, PXL_ROUND_NEAR_EVEN to
+ * nearest with ties to even, PXL_ROUND_HALF_AWAY to nearest with ties away from zero. NaN gives 0. buffer is not used
+ * and may be null. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Threads: regions of at least 64 x 64 pixels are split into strips of rows over a team of threads_omp_of_n_pxl
+ * threads; the result does not depend on the team.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR    src, dst or kernel is null
+ *   PXL_E_SIZE        a width or height of roiSize or kernelSize < 1
+ *   PXL_E_STEP        srcStep less than roiSize.width + kernelSize.width - 1 pixels, dstStep less than roiSize.width
+ *                     pixels
+ *   PXL_E_ROUND_MODE  roundMode is not 0, 1 or 2
  */
 PxlStatus pxliFilter_Round32f_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
     const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* buffer);
@@ -2470,19 +2830,34 @@ PxlStatus pxliFilter_Round32f_16u_C4R(const uint16_t* src, int srcStep, uint16_t
 PxlStatus pxliFilter_Round32f_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
     const float* kernel, ImageSize kernelSize, ImagePoint anchor, PxlRoundMode roundMode, uint8_t* buffer);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * FilterRow (filter/filter_row.cpp)
  *
- * True convolution with one row of kernelSize coefficients: dst(x, y) = sum of K[i] * src(x + xAnchor - i, y).
- * The caller supplies kernelSize - 1 - xAnchor columns left of the region and xAnchor right of it. AC4: elements 0..2.
- * 8u: divisor 1 saturates the sum; a power of two rounds to nearest even in integers; any other divisor multiplies with its
- * single-precision reciprocal and rounds to nearest even. 16s and 16u: the same, with a true division in double precision.
- * The sum must fit 32 bits.
- * 32f: products summed in single precision in the order of the pixels.
- * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
- * not depend on the team.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernelSize < 1; -51 divisor 0; -14 srcStep below (width +
- * kernelSize - 1) pixels, dstStep below width pixels.
+ * dst(x, y) = sum of K[i] * src(x + xAnchor - i, y) over the kernelSize coefficients of a row. This is true
+ * convolution, which mirrors the kernel: K[0] meets the rightmost pixel. Beside the region at src are read
+ *   left   kernelSize - 1 - xAnchor columns
+ *   right  xAnchor columns
+ * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
+ * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
+ * at that edge of the region are not read.
+ *
+ * Integer members divide the sum S by the divisor d, round to nearest with ties to even, and saturate:
+ *   d = 1                 S itself
+ *   d = 2, 4, 8, ...      S / d in integers
+ *   other d, 8u           S in single precision times the single-precision reciprocal of d
+ *   other d, 16s and 16u  S / d in double precision
+ * A negative divisor is one of the others: unsigned members give 0 where S is positive. S is formed modulo 2^32; kernel
+ * and image must keep it within 32 bits, sign included. 32f members sum products in single precision, one after the
+ * other from left to right. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Threads: regions of at least 64 x 64 pixels are split into strips of rows over a team of threads_omp_of_n_pxl
+ * threads; the result does not depend on the team.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width, roiSize.height or kernelSize < 1
+ *   PXL_E_DIVISOR   members with a divisor: it is 0
+ *   PXL_E_STEP      srcStep less than roiSize.width + kernelSize - 1 pixels, dstStep less than roiSize.width pixels
  */
 PxlStatus pxliFilterRow_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
     const int32_t* kernel, int kernelSize, int xAnchor, int divisor);
@@ -2517,16 +2892,27 @@ PxlStatus pxliFilterRow_32f_C4R(const float* src, int srcStep, float* dst, int d
 PxlStatus pxliFilterRow_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
     const float* kernel, int kernelSize, int xAnchor);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * FilterRow32f (filter/filter_row.cpp)
  *
- * True convolution with one row of kernelSize coefficients: dst(x, y) = sum of K[i] * src(x + xAnchor - i, y).
- * The caller supplies kernelSize - 1 - xAnchor columns left of the region and xAnchor right of it. AC4: elements 0..2.
- * Products are summed in single precision in the order of the pixels; the sum is saturated and rounded to nearest even.
- * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
- * not depend on the team.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernelSize < 1; -14 srcStep below (width +
- * kernelSize - 1) pixels, dstStep below width pixels.
+ * dst(x, y) = sum of K[i] * src(x + xAnchor - i, y) over the kernelSize coefficients of a row. This is true
+ * convolution, which mirrors the kernel: K[0] meets the rightmost pixel. Beside the region at src are read
+ *   left   kernelSize - 1 - xAnchor columns
+ *   right  xAnchor columns
+ * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
+ * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
+ * at that edge of the region are not read.
+ *
+ * Products are summed in single precision, one after the other from left to right; the sum is rounded to nearest with
+ * ties to even and saturated, NaN gives 0. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Threads: regions of at least 64 x 64 pixels are split into strips of rows over a team of threads_omp_of_n_pxl
+ * threads; the result does not depend on the team.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width, roiSize.height or kernelSize < 1
+ *   PXL_E_STEP      srcStep less than roiSize.width + kernelSize - 1 pixels, dstStep less than roiSize.width pixels
  */
 PxlStatus pxliFilterRow32f_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
     const float* kernel, int kernelSize, int xAnchor);
@@ -2553,18 +2939,34 @@ PxlStatus pxliFilterRow32f_16u_C4R(const uint16_t* src, int srcStep, uint16_t* d
 PxlStatus pxliFilterRow32f_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
     const float* kernel, int kernelSize, int xAnchor);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * FilterColumn (filter/filter_column.cpp)
  *
- * True convolution with one column of kernelSize coefficients: dst(x, y) = sum of K[j] * src(x, y + yAnchor - j).
- * The caller supplies kernelSize - 1 - yAnchor rows above the region and yAnchor below it. AC4: elements 0..2.
- * 8u: divisor 1 saturates the sum; a power of two rounds to nearest even in integers; any other divisor multiplies with its
- * single-precision reciprocal and rounds to nearest even. 16s and 16u: the same, with a true division in double precision.
- * The sum must fit 32 bits.
- * 32f: products summed in single precision in the order of the pixels.
- * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
- * not depend on the team.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernelSize < 1; -51 divisor 0; -14 srcStep below width pixels, dstStep below width pixels.
+ * dst(x, y) = sum of K[j] * src(x, y + yAnchor - j) over the kernelSize coefficients of a column. This is true
+ * convolution, which mirrors the kernel: K[0] meets the lowest pixel. Above and below the region at src are read
+ *   above  kernelSize - 1 - yAnchor rows
+ *   below  yAnchor rows
+ * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
+ * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
+ * at that edge of the region are not read.
+ *
+ * Integer members divide the sum S by the divisor d, round to nearest with ties to even, and saturate:
+ *   d = 1                 S itself
+ *   d = 2, 4, 8, ...      S / d in integers
+ *   other d, 8u           S in single precision times the single-precision reciprocal of d
+ *   other d, 16s and 16u  S / d in double precision
+ * A negative divisor is one of the others: unsigned members give 0 where S is positive. S is formed modulo 2^32; kernel
+ * and image must keep it within 32 bits, sign included. 32f members sum products in single precision, one after the
+ * other from top to bottom. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Threads: regions of at least 64 x 64 pixels are split into strips of rows over a team of threads_omp_of_n_pxl
+ * threads; the result does not depend on the team.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width, roiSize.height or kernelSize < 1
+ *   PXL_E_DIVISOR   members with a divisor: it is 0
+ *   PXL_E_STEP      srcStep or dstStep less than roiSize.width pixels
  */
 PxlStatus pxliFilterColumn_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
     const int32_t* kernel, int kernelSize, int yAnchor, int divisor);
@@ -2599,15 +3001,27 @@ PxlStatus pxliFilterColumn_32f_C4R(const float* src, int srcStep, float* dst, in
 PxlStatus pxliFilterColumn_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
     const float* kernel, int kernelSize, int yAnchor);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * FilterColumn32f (filter/filter_column.cpp)
  *
- * True convolution with one column of kernelSize coefficients: dst(x, y) = sum of K[j] * src(x, y + yAnchor - j).
- * The caller supplies kernelSize - 1 - yAnchor rows above the region and yAnchor below it. AC4: elements 0..2.
- * Products are summed in single precision in the order of the pixels; the sum is saturated and rounded to nearest even.
- * Threads: regions of at least 64 x 64 are split into strips of rows over a team of threads_omp_of_n_pxl threads; the result does
- * not depend on the team.
- * Statuses, in this order: -8 a pointer is null; -6 width or height < 1; -6 kernelSize < 1; -14 srcStep below width pixels, dstStep below width pixels.
+ * dst(x, y) = sum of K[j] * src(x, y + yAnchor - j) over the kernelSize coefficients of a column. This is true
+ * convolution, which mirrors the kernel: K[0] meets the lowest pixel. Above and below the region at src are read
+ *   above  kernelSize - 1 - yAnchor rows
+ *   below  yAnchor rows
+ * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
+ * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
+ * at that edge of the region are not read.
+ *
+ * Products are summed in single precision, one after the other from top to bottom; the sum is rounded to nearest with
+ * ties to even and saturated, NaN gives 0. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Threads: regions of at least 64 x 64 pixels are split into strips of rows over a team of threads_omp_of_n_pxl
+ * threads; the result does not depend on the team.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width, roiSize.height or kernelSize < 1
+ *   PXL_E_STEP      srcStep or dstStep less than roiSize.width pixels
  */
 PxlStatus pxliFilterColumn32f_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
     const float* kernel, int kernelSize, int yAnchor);
@@ -2634,23 +3048,41 @@ PxlStatus pxliFilterColumn32f_16u_C4R(const uint16_t* src, int srcStep, uint16_t
 PxlStatus pxliFilterColumn32f_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
     const float* kernel, int kernelSize, int yAnchor);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * FilterBox (filter/box.cpp)
  *
- * The mean of the maskSize window of every pixel: source pixels (x - anchor.x + i, y - anchor.y + j), 0 <= i < maskSize.width,
- * 0 <= j < maskSize.height. The caller supplies the pixels around the region that the window reaches. Running sums: a pixel costs
- * the same whatever the mask. In place (IR), the pixels around the region are read only. AC4: elements 0..2.
- *   8u   mask area up to 8100: the truncated mean by multiplication and shift; above: trunc(float(S) * r + 9.0e-6f) with r the
- *        single-precision reciprocal of the area
- *   16s  of the sum S of samples + 32768: trunc(float(S) * r + 9.0e-6) - 32768
- *   16u  trunc(double(float(S) * r) + 0.5000001)
+ * The mean of a window of maskSize.width x maskSize.height source pixels: (x - anchor.x + i, y - anchor.y + j) with 0
+ * <= i < maskSize.width and 0 <= j < maskSize.height. The window is not mirrored. Around the region at src are read
+ *   left   anchor.x columns
+ *   right  maskSize.width - 1 - anchor.x columns
+ *   above  anchor.y rows
+ *   below  maskSize.height - 1 - anchor.y rows
+ * In place (I), these pixels are read and not written. AC4: elements 0..2; element 3 of the destination keeps its
+ * value.
+ *
+ * Running sums (M. J. McDonnell, 1981): a pixel costs the same whatever the mask. With S the sum of the window and r
+ * the single-precision reciprocal of its area, all in single precision where nothing else is said:
+ *   8u   area up to 8100: (S * m) >> s, with m * 2^-s the reciprocal of the area rounded up to 12 significant bits:
+ *        multiples of the area give the exact mean, other sums the truncated one, or 1 more where the mean is just
+ *        below; larger areas: S * r + 9.0e-6, truncated
+ *   16s  with S the sum of the samples + 32768: S * r + 9.0e-6 (C4: this sum in double precision), truncated, less
+ *        32768
+ *   16u  S * r + 0.5000001 (this sum in double precision), truncated: to nearest, halves up
  *   32f  S * r with running sums in single precision
- * Steps of 16- and 32-bit types count whole elements: what is over is dropped.
- * Threads: 8u, 16s and 32f: blocks of rows over a team of threads_omp_of_n_pxl threads, out of place, for more than 4096 pixels (C4:
- * always); 32f results may differ in the last bits between team sizes. 16u and the in-place forms run on the calling thread.
- * Scratch: column sums of up to 16 rows; in place also the rows of results that wait for anchor.y rows below them.
- * Statuses, in this order: -8 a pointer is null; -14 a step < 1; -6 width or height < 1; -33 mask width or height < 1; -34 an anchor
- * outside the mask; -9 no scratch memory.
+ * A 1 x 1 mask copies. Steps of 16- and 32-bit types count whole elements: what is over is dropped.
+ *
+ * Threads: out of place, 8u, 16s and 32f regions of more than 4096 pixels (C4: all) are split into blocks of rows over
+ * a team of threads_omp_of_n_pxl threads; 32f results may differ in the last bits between team sizes. Everything else
+ * runs on the calling thread. Scratch: column sums of up to 16 rows; in place also the rows of results that wait for
+ * anchor.y rows below them.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR   a pointer is null
+ *   PXL_E_STEP       a step < 1
+ *   PXL_E_SIZE       roiSize.width or roiSize.height < 1
+ *   PXL_E_MASK_SIZE  maskSize.width or maskSize.height < 1
+ *   PXL_E_ANCHOR     anchor outside the mask
+ *   PXL_E_MEM_ALLOC  there is no memory for the scratch
  */
 PxlStatus pxliFilterBox_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
     ImageSize maskSize, ImagePoint anchor);
@@ -2717,14 +3149,28 @@ PxlStatus pxliFilterBox_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSiz
 PxlStatus pxliFilterBox_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, ImageSize maskSize,
     ImagePoint anchor);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * SumWindowRow (filter/sum_window.cpp)
  *
- * The sum of the maskSize source samples (x - anchor + k, y), 0 <= k < maskSize, as single-precision running sums: each channel
- * starts a row with the sum of its first window and adds the difference of the sample that enters and the one that leaves.
- * Steps are not checked; those of 16-bit sources and of the destination count whole elements.
- * Statuses, in this order: 16u: -8 a pointer is null; -6 width or height < 1; -33 maskSize < 1; -34 anchor outside 0..maskSize - 1.
- * 8u and 16s: -8; -33; -34; a height < 1 then returns 0.
+ * dst(x, y) = sum of src(x - anchor + k, y), 0 <= k < maskSize. The window is not mirrored. Beside the region at src
+ * are read
+ *   left   anchor columns
+ *   right  maskSize - 1 - anchor columns
+ *
+ * Running sums in single precision: each channel starts a row with the samples of its first window, added one by one
+ * from left to right, and goes on by adding the difference of the sample that enters and the one that leaves. Steps are
+ * not checked; those of 16-bit sources and of the destination count whole elements, rounded down. Empty regions: 16u
+ * members refuse them; 8u and 16s members return PXL_OK and write nothing.
+ *
+ * Statuses of 16u members, in this order:
+ *   PXL_E_NULL_PTR   a pointer is null
+ *   PXL_E_SIZE       roiSize.width or roiSize.height < 1
+ *   PXL_E_MASK_SIZE  maskSize < 1
+ *   PXL_E_ANCHOR     anchor outside 0 .. maskSize - 1
+ * Statuses of 8u and 16s members, in this order:
+ *   PXL_E_NULL_PTR   a pointer is null
+ *   PXL_E_MASK_SIZE  maskSize < 1
+ *   PXL_E_ANCHOR     anchor outside 0 .. maskSize - 1
  */
 PxlStatus pxliSumWindowRow_8u32f_C1R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
     int maskSize, int anchor);
@@ -2745,16 +3191,37 @@ PxlStatus pxliSumWindowRow_16u32f_C3R(const uint16_t* src, int srcStep, float* d
 PxlStatus pxliSumWindowRow_16u32f_C4R(const uint16_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
     int maskSize, int anchor);
 
-/* --------------------------------------------------------------------------------------------------------------
+/* ---------------------------------------------------------------------------------------------------------------------
  * SumWindowColumn (filter/sum_window.cpp)
  *
- * The sum of the maskSize source samples (x, y - anchor + k), 0 <= k < maskSize, as single-precision running sums: each channel
- * starts a column with the sum of its first window and adds the difference of the sample that enters and the one that leaves.
- * Steps are not checked; those of 16-bit sources and of the destination count whole elements.
- * Scratch: one row of sums.
- * Statuses, in this order: 16u: -8 a pointer is null; -6 width or height < 1; -33 maskSize < 1; -34 anchor outside 0..maskSize - 1.
- * 8u and 16s: -8; -33; -34; a height < 1 then returns 0, a width < 1 returns -9. 16s C3: -6 width or height < 1; -8;
- * -33; -34. All: -9 no scratch memory.
+ * dst(x, y) = sum of src(x, y - anchor + k), 0 <= k < maskSize. The window is not mirrored. Above and below the region
+ * at src are read
+ *   above  anchor rows
+ *   below  maskSize - 1 - anchor rows
+ *
+ * Running sums in single precision: each channel starts a column with the samples of its first window, added one by one
+ * from top to bottom, and goes on by adding the difference of the sample that enters and the one that leaves. Steps are
+ * not checked; those of 16-bit sources and of the destination count whole elements, rounded down. Empty regions: 16u
+ * members and 16s_C3R refuse them; the others return PXL_OK for a height < 1, and else, for a width < 1,
+ * PXL_E_MEM_ALLOC, both without writing. Scratch: one row of sums.
+ *
+ * Statuses of 16u members, in this order:
+ *   PXL_E_NULL_PTR   a pointer is null
+ *   PXL_E_SIZE       roiSize.width or roiSize.height < 1
+ *   PXL_E_MASK_SIZE  maskSize < 1
+ *   PXL_E_ANCHOR     anchor outside 0 .. maskSize - 1
+ *   PXL_E_MEM_ALLOC  there is no memory for the scratch
+ * Statuses of 16s_C3R, in this order:
+ *   PXL_E_SIZE       roiSize.width or roiSize.height < 1
+ *   PXL_E_NULL_PTR   a pointer is null
+ *   PXL_E_MASK_SIZE  maskSize < 1
+ *   PXL_E_ANCHOR     anchor outside 0 .. maskSize - 1
+ *   PXL_E_MEM_ALLOC  there is no memory for the scratch
+ * Statuses of the other 8u and 16s members, in this order:
+ *   PXL_E_NULL_PTR   a pointer is null
+ *   PXL_E_MASK_SIZE  maskSize < 1
+ *   PXL_E_ANCHOR     anchor outside 0 .. maskSize - 1
+ *   PXL_E_MEM_ALLOC  roiSize.height >= 1 and roiSize.width < 1, or there is no memory for the scratch
  */
 PxlStatus pxliSumWindowColumn_8u32f_C1R(const uint8_t* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
     int maskSize, int anchor);

@@ -12,8 +12,8 @@
 #pragma once
 
 #include "frame/streaming.h"
-#include "frame/vec.h"
-#include "frame/vec_convert.h"
+#include "frame/vec/convert.h"
+#include "frame/vec/mask.h"
 #include "frame/walk.h"
 #include "pxli.h"
 
@@ -25,7 +25,7 @@ inline constexpr int unitOf = lanes<typename Operation::Lane>;
 // Stores Count elements; in pixels with alpha, the fourth of each keeps its value.
 template <int Count, bool Alpha, class D>
 PXL_INLINE void storeConverted(Vec<D> v, D* d) {
-    if constexpr (Alpha) v = KeepEveryFourth<3>(LoadFirst<Count>(d), v);
+    if constexpr (Alpha) v = KeepAlpha(LoadFirst<Count>(d), v);
     StoreFirst<Count>(v, d);
 }
 
@@ -42,13 +42,13 @@ PXL_INLINE auto convertRegister(const Operation& operation, const S* s) {
     constexpr int parts = lanes<D> / unit;
     const auto part = [&](int i) { return convertUnit(operation, s + i * unit); };
     if constexpr (parts == 1) return part(0);
-    if constexpr (parts == 2) return Demote2<D>(part(0), part(1));
-    if constexpr (parts == 4) return Demote4<D>(part(0), part(1), part(2), part(3));
+    if constexpr (parts == 2) return OrderedDemote2To<D>(part(0), part(1));
+    if constexpr (parts == 4) return OrderedDemote4To<D>(part(0), part(1), part(2), part(3));
 }
 
 template <bool Alpha, class Operation, class S, class D>
 PXL_INLINE void convertOneUnit(const Operation& operation, const S* s, D* d) {
-    storeConverted<unitOf<Operation>, Alpha>(DemoteFirst<D>(convertUnit(operation, s)), d);
+    storeConverted<unitOf<Operation>, Alpha>(DemoteTo<D>(convertUnit(operation, s)), d);
 }
 
 template <bool Alpha, class Operation, class S, class D>
@@ -82,7 +82,7 @@ struct FewResults {
     alignas(vecBytes) D data[lanes<D>];
 
     PXL_INLINE FewResults(const Operation& operation, ptrdiff_t n, const typename Operation::Source* s) {
-        StoreU(DemoteFirst<D>(operation(LoadFew<unitOf<Operation>>(s, n))), data);
+        StoreU(DemoteTo<D>(operation(LoadN<unitOf<Operation>>(s, n))), data);
     }
 };
 
@@ -133,8 +133,8 @@ template <class Operation, class S, class D>
     if (n < unit) return convertFewColours(operation, pixels, s, d);
     const Vec<D> kept = LoadFirst<unit>(d + n - unit); // later it would wait for the stores that it overlaps
     convertUnits<true, false>(operation, n, s, d);
-    const Vec<D> last = DemoteFirst<D>(convertUnit(operation, s + n - unit));
-    StoreFirst<unit>(KeepEveryFourth<0>(kept, last), d + n - unit);
+    const Vec<D> last = DemoteTo<D>(convertUnit(operation, s + n - unit));
+    StoreFirst<unit>(KeepAlpha<0>(kept, last), d + n - unit);
 }
 
 // ---- the walks: one body per operation, whatever the count of channels ----------------------------------------------

@@ -4,7 +4,8 @@
 
 #include "frame/element.h"
 #include "frame/image.h"
-#include "frame/vec_pattern.h"
+#include "frame/vec/mask.h"
+#include "frame/vec/pattern.h"
 
 namespace pxl::PXL_TARGET::pointwise {
 

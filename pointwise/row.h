@@ -13,8 +13,7 @@
 //     Vec<L> at(x, o)                  is o lanes further on in b, a member that they move
 #pragma once
 
-#include "frame/vec_ends.h"
-#include "frame/vec_stream.h"
+#include "frame/vec/partial.h"
 #include "pointwise/operands.h"
 
 namespace pxl::PXL_TARGET::pointwise {
@@ -126,14 +125,14 @@ void elementRow(ptrdiff_t n, const void* a, const void* b, void* to, const RowPl
     if constexpr (Results::isUnrolled) {
         const ptrdiff_t advance = plan.still ? 0 : run;
         for (; x + run <= last; x += run, results.b += advance) {
-            // The empty statements keep loads and stores in ascending order, which the caches reward.
+            // Computed where they stand, they keep loads and stores in ascending order, which the caches reward.
             const Vec<L> first = results.at(x);
-            asm volatile("" ::"x"(first.raw));
+            ComputeHere(first);
             const Vec<L> second = results.at(x + step, step);
-            asm volatile("" ::"x"(second.raw));
+            ComputeHere(second);
             const Vec<L> third = results.at(x + 2 * step, 2 * step);
             StoreU(first, d + x);
-            asm volatile("" ::"x"(third.raw));
+            ComputeHere(third);
             StoreU(second, d + x + step);
             StoreU(third, d + x + 2 * step);
         }

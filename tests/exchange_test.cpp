@@ -1,16 +1,13 @@
 // Data exchange: what random calls are unlikely to hit.
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
-#include <limits>
 #include <vector>
 
 #include "failing_malloc.h"
 #include "pxli.h"
-#include "reference/reference.h"
 #include "targets.h"
 
 namespace {
@@ -18,97 +15,6 @@ namespace {
 class EveryTarget : public testing::TestWithParam<pxl::KnownTarget> {
     TargetScope scope_{GetParam()};
 };
-
-// All values of a 16-bit type through a member and its reference, as one row.
-void expectAllValues(std::string_view name, std::string_view family, std::string_view src, std::string_view dst,
-                     PxlStatus (*call)(const reference::Arg*), size_t dstBytes, int hint) {
-    std::vector<uint16_t> values(65536);
-    for (size_t i = 0; i < values.size(); ++i) values[i] = static_cast<uint16_t>(i);
-    std::vector<uint8_t> expected(values.size() * dstBytes), actual = expected;
-    const reference::Member member{name, family, src, dst, "C1", "R"};
-    reference::Arg args[6];
-    args[0].ptr = values.data();
-    args[1].num = args[3].num = 1 << 20;
-    args[2].ptr = expected.data();
-    args[4].width = 65536;
-    args[4].height = 1;
-    args[5].num = hint;
-    ASSERT_EQ(reference::find(family)(member, args), PXL_OK);
-    args[2].ptr = actual.data();
-    ASSERT_EQ(call(args), PXL_OK);
-    EXPECT_TRUE(expected == actual) << name << " hint " << hint;
-}
-
-TEST_P(EveryTarget, NarrowingScaleIsExactForAllValuesAndEveryHint) {
-    for (const int hint : {0, 1, 2, 3}) {
-        expectAllValues(
-            "pxliScale_16s8u_C1R", "Scale", "16s", "8u",
-            [](const reference::Arg* a) {
-                return pxliScale_16s8u_C1R(static_cast<const int16_t*>(a[0].ptr), 1 << 20, (uint8_t*)a[2].ptr, 1 << 20,
-                                           {65536, 1}, static_cast<int>(a[5].num));
-            },
-            1, hint);
-        expectAllValues(
-            "pxliScale_16u8u_C1R", "Scale", "16u", "8u",
-            [](const reference::Arg* a) {
-                return pxliScale_16u8u_C1R(static_cast<const uint16_t*>(a[0].ptr), 1 << 20, (uint8_t*)a[2].ptr, 1 << 20,
-                                           {65536, 1}, static_cast<int>(a[5].num));
-            },
-            1, hint);
-    }
-}
-
-// 32s to 8u around every value where the result steps: (v + 2^31) / 16843009 = k + 1/2.
-TEST_P(EveryTarget, ScaleOf32sStepsWhereItShould) {
-    std::vector<int32_t> values;
-    std::vector<uint8_t> expected;
-    for (int64_t k = 0; k < 255; ++k)
-        for (int64_t d = -2; d <= 2; ++d) {
-            const int64_t above = (2 * k + 1) * 16843009 / 2 + d;
-            values.push_back(static_cast<int32_t>(above - (int64_t{1} << 31)));
-            expected.push_back(static_cast<uint8_t>((2 * above + 16843009) / (2 * 16843009)));
-        }
-    std::vector<uint8_t> actual(values.size());
-    const ImageSize size{static_cast<int>(values.size()), 1};
-    EXPECT_EQ(pxliScale_32s8u_C1R(values.data(), 1 << 20, actual.data(), 1 << 20, size, 0), PXL_OK);
-    EXPECT_EQ(actual, expected);
-}
-
-// Every float around the places where rounding turns: halves, ends of the range, and 0.5 minus one unit in the last
-// place.
-TEST_P(EveryTarget, FloatsRoundAsDocumentedAroundEveryHalf) {
-    using Limits = std::numeric_limits<float>;
-    std::vector<float> values = {
-        0.49999997f, -0.49999997f, Limits::quiet_NaN(), Limits::infinity(), -Limits::infinity(), 1e30f, -1e30f,
-        3e9f,        -3e9f,        Limits::denorm_min()};
-    for (int half = -131200; half <= 131200; ++half) {
-        const float v = static_cast<float>(half) * 0.5f;
-        values.insert(values.end(), {std::nextafter(v, -1e9f), v, std::nextafter(v, 1e9f)});
-    }
-    const ImageSize size{static_cast<int>(values.size()), 1};
-    const int step = 1 << 22;
-    const auto check = [&](std::string_view dst, auto call, auto zero) {
-        using T = decltype(zero);
-        for (const int mode : {0, 1, 2, 9}) {
-            std::vector<T> expected(values.size()), actual(values.size());
-            const reference::Member member{"", "Convert", "32f", dst, "C1", "R"};
-            reference::Arg args[6];
-            args[0].ptr = values.data();
-            args[1].num = args[3].num = step;
-            args[2].ptr = expected.data();
-            args[4].width = size.width;
-            args[4].height = 1;
-            args[5].num = mode;
-            ASSERT_EQ(reference::find("Convert")(member, args), PXL_OK);
-            ASSERT_EQ(call(values.data(), step, actual.data(), step, size, mode), PXL_OK);
-            EXPECT_TRUE(expected == actual) << dst << " mode " << mode;
-        }
-    };
-    check("8u", pxliConvert_32f8u_C1R, uint8_t{});
-    check("8s", pxliConvert_32f8s_C1R, int8_t{});
-    check("16u", pxliConvert_32f16u_C1R, uint16_t{});
-    check("16s", pxliConvert_32f16s_C1R, int16_t{});
-}
 
 TEST_P(EveryTarget, DitheringWithoutMemoryWritesNothing) {
     const std::vector<uint8_t> src(64, 200);

@@ -120,24 +120,6 @@ TEST(Parallel, EveryTeamGivesTheSameBytes) {
     }
 }
 
-TEST(Parallel, FloatBoxDiffersInTheLastBitsOnly) {
-    const Runner call = run<float>(1, [](auto... a) {
-        return pxliFilterBox_32f_C1R(a..., ImageSize{7, 9}, ImagePoint{3, 4});
-    });
-    const TeamScope one(1);
-    const auto expected = call({200, 150}, 7);
-    for (const int team : {2, 3, 8}) {
-        const TeamScope of(team);
-        const auto actual = call({200, 150}, 7);
-        for (size_t at = 0; at < expected.size(); at += sizeof(float)) {
-            float e, a;
-            std::memcpy(&e, &expected[at], sizeof e);
-            std::memcpy(&a, &actual[at], sizeof a);
-            ASSERT_NEAR(e, a, 0.25f) << "team " << team << " at " << at; // values up to 30000 in sums of 63
-        }
-    }
-}
-
 TEST(Parallel, InsideARegionOfTheCallers) {
     const auto& call = exactRuns[0].second;
     const TeamScope two(2);
@@ -211,16 +193,6 @@ TEST(NoMemory, BoxFiltersAndSums) {
     }
     EXPECT_EQ(status, PXL_E_MEM_ALLOC);
     EXPECT_EQ(sums, std::vector<float>(80 * 60, 1.0f));
-}
-
-TEST(FilterBufferSize, IsZeroAndCheckedFirst) {
-    int size = 77;
-    EXPECT_EQ(pxliFilterGetBufSize_64f_C1R({0, 3}, 10, nullptr), PXL_E_NULL_PTR);
-    EXPECT_EQ(pxliFilterGetBufSize_64f_C1R({0, 3}, 10, &size), PXL_E_SIZE);
-    EXPECT_EQ(pxliFilterGetBufSize_64f_C1R({3, 3}, 0, &size), PXL_E_SIZE);
-    EXPECT_EQ(size, 77);
-    EXPECT_EQ(pxliFilterGetBufSize_64f_C1R({3, 3}, 10, &size), PXL_OK);
-    EXPECT_EQ(size, 0);
 }
 
 } // namespace

@@ -122,7 +122,7 @@ void checkNarrowing(int64_t divisor, auto scale) {
             const int64_t value = lowest + step * divisor - divisor / 2 + near;
             if (value >= lowest && value <= highest) values.push_back(static_cast<S>(value));
         }
-    for (const int hint : {0, 1, 2})
+    for (const int hint : {0, 1, 2, 3})
         compare<S, uint8_t>(
             values, [&](auto... args) { return scale(args..., hint); },
             [&](int64_t value) { return (value - lowest + divisor / 2) / divisor; });

@@ -53,14 +53,6 @@ void printAllocator(const generic::Allocator& allocator) {
     pxliFree(image);
 }
 
-void printBufferSize() {
-    int32_t size = 0;
-    const PxlStatus status = pxliFilterGetBufSize_64f_C1R({5, 3}, 100, &size);
-    Checksum sum;
-    sum.add(&size, sizeof size);
-    print("pxliFilterGetBufSize_64f_C1R", status, sum);
-}
-
 // A call that is accepted, over memory that depends on the member's name alone.
 void printMember(const generic::Member& member, const std::vector<generic::Guarded>& memory) {
     Checksum seed;
@@ -73,8 +65,7 @@ void printMember(const generic::Member& member, const std::vector<generic::Guard
     for (int attempt = 0; status < 0 && attempt < 100; ++attempt) {
         const generic::Call call = randomCall(member, random);
         for (int i = 0; i < call.memories; ++i) fillMemory(call, i, pointers[static_cast<size_t>(i)], random);
-        std::vector<std::vector<void*>> planes;
-        status = member.call(call.bind(pointers, planes).data());
+        status = member.call(call.bind(pointers).data());
         sum = Checksum();
         for (int i = 0; i < call.memories; ++i) {
             const generic::Reach window = call.window(i);
@@ -90,9 +81,7 @@ int main() {
     pxlcoreSetNumThreads(2);
     printVersion();
     for (const generic::Allocator& allocator : generic::allocators()) printAllocator(allocator);
-    const std::vector<generic::Guarded> memory(12);
-    for (const generic::Member& member : generic::members())
-        if (worksOnImages(member)) printMember(member, memory);
-    printBufferSize();
+    const std::vector<generic::Guarded> memory(generic::Call::maxMemories);
+    for (const generic::Member& member : generic::members()) printMember(member, memory);
     return 0;
 }

@@ -1,6 +1,5 @@
-// The numbers of a random call: sizes, scalars, arrays and steps, and ways to get them wrong.
+// The numbers of a random call: sizes, scalars and steps, and ways to get them wrong.
 #include <algorithm>
-#include <cstring>
 #include <limits>
 
 #include "generic/builder.h"
@@ -52,139 +51,146 @@ int64_t randomInteger(Random& random, int bits) {
     return static_cast<int64_t>(random());
 }
 
-Builder::Builder(const Member& member, Random& random) : random_(random) {
-    call_.member = &member;
-    const auto count = static_cast<size_t>(member.count);
+Builder::Builder(const Member& called, Random& random) : random_(random) {
+    call_.member = &called;
+    const auto count = static_cast<size_t>(called.count);
     call_.args.resize(count);
-    call_.arrays.resize(count);
     call_.nulls.resize(count, false);
-    call_.reaches.resize(count);
+    call_.pointers.resize(count, -1);
+    contents_.resize(count);
     chooseSizes();
-    for (int i = 0; i < member.count; ++i) chooseScalar(i);
+    for (int i = 0; i < called.count; ++i) {
+        const Role role = param(i).role;
+        if (role == Role::Integer || role == Role::Real) chooseNumber(i);
+        if (role == Role::Element) chooseElement(i);
+    }
+    for (int i = 0; i < called.count; ++i)
+        if (isArray(param(i))) chooseArray(i);
     chooseSteps();
 }
 
-bool Builder::isFilter() const {
-    const std::string_view family = call_.member->family;
-    return family.starts_with("Filter") || family.starts_with("SumWindow");
-}
-
+// The first size is that of the region; further ones are small.
 void Builder::chooseSizes() {
-    const bool wide = chance(random_, 10);
-    const int64_t width = wide ? between(random_, 100, 1000) : between(random_, 1, chance(random_, 50) ? 20 : 100);
-    const int64_t height = wide ? between(random_, 1, 3) : between(random_, 1, chance(random_, 80) ? 5 : 70);
-    if (has("dstSize")) return chooseBorderSizes(width, height);
-    auto& roi = named("roiSize");
-    roi.width = static_cast<int32_t>(width);
-    roi.height = static_cast<int32_t>(height);
-    if (call_.member->family == "Transpose") {
-        if (wide) roi.height = static_cast<int32_t>(between(random_, 60, 140));
-        roi.width = std::min(roi.width, 150);
-        if (call_.member->mode[0] == 'I' && !chance(random_, 5)) roi.height = roi.width;
+    for (int i = 0; i < member().count; ++i) {
+        const Param& p = param(i);
+        if (p.role != Role::Size || p.meaning == Meaning::WindowSize) continue;
+        if (p.meaning == Meaning::Outer) {
+            chooseOuter(arg(region_), arg(i));
+        } else if (region_ >= 0) {
+            arg(i).width = static_cast<int32_t>(between(random_, 1, 8));
+            arg(i).height = static_cast<int32_t>(between(random_, 1, 8));
+        } else {
+            region_ = i;
+            chooseRegion(arg(i));
+        }
     }
-    if (isFilter()) {
-        if (wide)
-            roi.width = static_cast<int32_t>(between(random_, 60, 90)),
-            roi.height = static_cast<int32_t>(between(random_, 60, 70));
-        chooseWindow();
-    }
-    if (chance(random_, 2)) roi.height = 0;
+    for (const Param& p : member().parameters())
+        if (p.region.window.kind != Window::None) chooseWindow(p.region.window);
 }
 
-void Builder::chooseBorderSizes(int64_t width, int64_t height) {
-    auto& src = named("srcSize");
-    src.width = static_cast<int32_t>(width);
-    src.height = static_cast<int32_t>(std::min<int64_t>(height, 8));
+void Builder::chooseRegion(reference::Arg& size) {
+    const bool wide = chance(random_, 10);
+    const int* large = facts().large;
+    int64_t width = wide ? between(random_, 100, 1000) : between(random_, 1, chance(random_, 50) ? 20 : 100);
+    int64_t height = wide ? between(random_, 1, 3) : between(random_, 1, chance(random_, 80) ? 5 : 70);
+    if (wide && large[0] > 0) width = between(random_, 60, large[0]), height = between(random_, 60, large[1]);
+    if (member().find(Meaning::Outer) >= 0) height = std::min<int64_t>(height, 8);
+    if (facts().square && !chance(random_, 5)) height = width;
+    if (chance(random_, 2)) height = 0;
+    size.width = static_cast<int32_t>(width);
+    size.height = static_cast<int32_t>(height);
+}
+
+void Builder::chooseOuter(const reference::Arg& inner, reference::Arg& outer) {
     const int64_t margin = chance(random_, 50) ? 4 : 50;
     const auto side = [&] { return chance(random_, 20) ? 0 : between(random_, 0, margin); };
-    named("borderTop").num = std::min<int64_t>(side(), 12);
-    named("borderLeft").num = side();
-    auto& dst = named("dstSize");
-    dst.width = static_cast<int32_t>(src.width + named("borderLeft").num + side());
-    dst.height = static_cast<int32_t>(src.height + named("borderTop").num + std::min<int64_t>(side(), 12));
+    arg(Meaning::BorderTop).num = std::min<int64_t>(side(), 12);
+    arg(Meaning::BorderLeft).num = side();
+    outer.width = static_cast<int32_t>(inner.width + arg(Meaning::BorderLeft).num + side());
+    outer.height = static_cast<int32_t>(inner.height + arg(Meaning::BorderTop).num + std::min<int64_t>(side(), 12));
 }
 
-// Kernel or mask and anchor. Linear filters take anchors outside the kernel, masks do not.
-void Builder::chooseWindow() {
+void Builder::chooseSide(int64_t& length, int64_t& anchor, bool mirrored, int64_t limit) {
+    length = between(random_, 1, limit);
+    anchor = mirrored && chance(random_, 10) ? between(random_, -3, length + 2) : between(random_, 0, length - 1);
+}
+
+void Builder::chooseWindow(const Window& window) {
     const int64_t limit = chance(random_, 70) ? 5 : 13;
-    const auto side = [&] { return static_cast<int32_t>(between(random_, 1, limit)); };
-    const auto inside = [&](int64_t length, bool outsideToo) {
-        return outsideToo && chance(random_, 10) ? between(random_, -3, length + 2) : between(random_, 0, length - 1);
-    };
-    for (const std::string_view name : {"kernelSize", "maskSize"}) {
-        if (!has(name)) continue;
-        const bool kernel = name == "kernelSize";
-        auto& size = named(name);
-        if (!has("anchor") || param(call_.member->find("anchor")).role != Role::Point) {
-            size.num = chance(random_, 20) ? between(random_, 1, 40) : side();
-            named(kernel ? (has("xAnchor") ? "xAnchor" : "yAnchor") : "anchor").num = inside(size.num, kernel);
-            continue;
-        }
-        size.width = side();
-        size.height = side();
-        if (!kernel && chance(random_, 5)) { // beside the area where 8u means change their formula
-            size.width = 90;
-            size.height = static_cast<int32_t>(between(random_, 89, 92));
-            named("roiSize").width = std::min(named("roiSize").width, 12);
-        }
-        named("anchor").width = static_cast<int32_t>(inside(size.width, kernel));
-        named("anchor").height = static_cast<int32_t>(inside(size.height, kernel));
+    if (window.kind == Window::Row || window.kind == Window::Column)
+        return chooseSide(arg(window.size).num, arg(window.anchor).num, window.mirrored,
+                          chance(random_, 20) ? 40 : limit);
+    if (window.kind != Window::Sized) return; // a number like others
+    int64_t width, height, x, y;
+    chooseSide(width, x, window.mirrored, limit);
+    chooseSide(height, y, window.mirrored, limit);
+    if (facts().windows[0][0] > 0 && chance(random_, 5)) {
+        const int* size = facts().windows[between(random_, 0, std::ssize(facts().windows) - 1)];
+        width = std::max(1, size[0]);
+        height = std::max(1, size[1]);
+        arg(region_).width = std::min(arg(region_).width, 12);
+    }
+    arg(window.size).width = static_cast<int32_t>(width);
+    arg(window.size).height = static_cast<int32_t>(height);
+    arg(window.anchor).width = static_cast<int32_t>(x);
+    arg(window.anchor).height = static_cast<int32_t>(y);
+}
+
+int64_t Builder::validNumber(const Valid& valid) {
+    const auto low = static_cast<int64_t>(valid.low), high = static_cast<int64_t>(valid.high);
+    for (;;) {
+        const int64_t number = between(random_, low, high);
+        if (!valid.among || (valid.among >> number & 1)) return number;
     }
 }
 
-void Builder::chooseScalar(int i) {
-    const Param& p = param(i);
-    switch (p.role) {
-    case Role::Element:
-        return chooseElement(i);
-    case Role::Integer:
-        return chooseInteger(i);
-    case Role::Values:
-    case Role::Order:
-        return chooseArray(i);
-    case Role::Table:
-        return chooseKernel(i);
-    case Role::Real: // vMin and vMax: mostly a range, now and then an empty one
-        arg(i).real = std::uniform_real_distribution<float>(-300, 100)(random_);
-        if (chance(random_, 20)) arg(i).real = static_cast<float>(between(random_, -2, 2));
-        if (p.name == "vMax")
-            arg(i).real =
-                static_cast<float>(named("vMin").real + std::uniform_real_distribution<float>(-1, 600)(random_));
-        return;
+int64_t Builder::randomNumber(const Param& p) {
+    switch (p.meaning) {
+    case Meaning::Count:
+        return between(random_, 2, 12);
+    case Meaning::BitOffset:
+        return between(random_, 0, chance(random_, 80) ? 7 : 30);
+    case Meaning::Shift:
+        return between(random_, 0, chance(random_, 90) ? 34 : 4000000000);
+    case Meaning::ScaleFactor:
+        if (chance(random_, 3)) return chance(random_, 50) ? INT32_MIN : INT32_MAX;
+        if (chance(random_, 15)) return between(random_, -70, 70);
+        return chance(random_, 20) ? 0 : between(random_, -10, 18);
+    case Meaning::Divisor: {
+        const int64_t divisor = chance(random_, 30)   ? 1
+                                : chance(random_, 50) ? int64_t{1} << between(random_, 1, 12)
+                                                      : between(random_, 2, 300);
+        return chance(random_, 20) ? -divisor : divisor;
+    }
     default:
-        return;
+        if (p.valid.limited) return validNumber(p.valid);
+        return chance(random_, 80) ? between(random_, 0, 3) : between(random_, -3, 9);
     }
 }
 
-void Builder::chooseInteger(int i) {
-    const std::string_view name = param(i).name;
-    auto& value = arg(i).num;
-    if (name == "flip") value = between(random_, 0, 2);
-    if (name == "roundMode")
-        value =
-            chance(random_, 80) || call_.member->family != "Convert" ? between(random_, 0, 2) : between(random_, -3, 9);
-    if (name == "hint") value = between(random_, -1, 4);
-    if (name == "threshold") value = between(random_, 0, 255);
-    if (name.ends_with("BitOffset")) value = between(random_, 0, chance(random_, 80) ? 7 : 30);
-    if (name == "scaleFactor") {
-        value = chance(random_, 20) ? 0 : between(random_, -10, 18);
-        if (chance(random_, 15)) value = between(random_, -70, 70);
-        if (chance(random_, 3)) value = chance(random_, 50) ? INT32_MIN : INT32_MAX;
-    }
-    if (name == "divisor") {
-        value = chance(random_, 30)   ? 1
-                : chance(random_, 50) ? int64_t{1} << between(random_, 1, 12)
-                                      : between(random_, 2, 300);
-        if (chance(random_, 20)) value = -value;
+void Builder::chooseNumber(int i) {
+    const Param& p = param(i);
+    auto& a = arg(i);
+    if (p.meaning == Meaning::BorderTop || p.meaning == Meaning::BorderLeft || p.meaning == Meaning::WindowSize ||
+        p.meaning == Meaning::WindowAnchor)
+        return; // belong to the sizes
+    if (p.role == Role::Integer) {
+        a.num = randomNumber(p);
+    } else if (p.meaning == Meaning::RangeHigh) { // mostly a range, now and then an empty one
+        a.real =
+            static_cast<float>(arg(Meaning::RangeLow).real + std::uniform_real_distribution<float>(-1, 600)(random_));
+    } else if (p.valid.limited) {
+        a.real = std::uniform_real_distribution<double>(p.valid.low, p.valid.high)(random_);
+    } else {
+        a.real = chance(random_, 20) ? static_cast<float>(between(random_, -2, 2))
+                                     : std::uniform_real_distribution<float>(-300, 100)(random_);
     }
 }
 
 void Builder::chooseElement(int i) {
     const Param& p = param(i);
-    if (p.type.ends_with("c")) return chooseArray(i); // a complex scalar lies behind a pointer
     auto& a = arg(i);
-    a.num = p.type == "32u" ? between(random_, 0, chance(random_, 90) ? 34 : 4000000000)
-                            : randomInteger(random_, elementBytes(p.type) * 8);
+    a.num = p.meaning == Meaning::Shift ? randomNumber(p) : randomInteger(random_, elementBytes(p.type) * 8);
     if (p.type == "8u") a.num &= 0xFF;
     if (p.type == "16u") a.num &= 0xFFFF;
     if (p.type == "16s") a.num = static_cast<int16_t>(a.num);
@@ -192,113 +198,52 @@ void Builder::chooseElement(int i) {
     a.real = randomReal(random_);
 }
 
-void Builder::chooseArray(int i) {
-    const Param& p = param(i);
-    const int size = elementBytes(p.type);
-    auto& bytes = call_.arrays[static_cast<size_t>(i)];
-    bytes.resize(static_cast<size_t>(p.count) * static_cast<size_t>(size));
-    const auto fill = [&](auto&& value) {
-        for (size_t at = 0; at < bytes.size();) {
-            const auto next = value();
-            std::memcpy(bytes.data() + at, &next, sizeof next);
-            at += sizeof next;
-        }
-    };
-    if (p.role == Role::Order) {
-        const std::string_view layout = call_.member->layout;
-        const int64_t limit = layout == "C3C4" ? 6 : layout.starts_with("C4") ? 3 : 2;
-        return fill([&] { return static_cast<int32_t>(between(random_, 0, limit)); });
-    }
-    if (p.type.starts_with("32f")) return fill([&] { return randomReal(random_); });
-    if (p.type == "32u") {
-        const bool same = chance(random_, 20);
-        const auto first = static_cast<uint32_t>(between(random_, 0, 34));
-        return fill([&] {
-            return same ? first : static_cast<uint32_t>(between(random_, 0, chance(random_, 95) ? 34 : 4000000000));
-        });
-    }
-    if (size == 1) return fill([&] { return static_cast<uint8_t>(randomInteger(random_, 8)); });
-    if (size == 2 || p.type == "16sc") return fill([&] { return static_cast<int16_t>(randomInteger(random_, 16)); });
-    fill([&] { return static_cast<int32_t>(randomInteger(random_, 32)); });
-}
-
-// Coefficients whose sum of products fits 32 bits whatever the pixels are.
-void Builder::chooseKernel(int i) {
-    const auto& size = named("kernelSize");
-    const int64_t count = size.num ? size.num : int64_t{size.width} * size.height;
-    const int pixelBits = elementBytes(call_.member->src) * 8;
-    const int64_t most = pixelBits > 16 ? 1000 : (int64_t{1} << (30 - pixelBits)) / count;
-    const int64_t limit = std::min<int64_t>(most, chance(random_, 70) ? 20 : 40000);
-    auto& bytes = call_.arrays[static_cast<size_t>(i)];
-    const auto element = static_cast<size_t>(elementBytes(param(i).type));
-    bytes.resize(static_cast<size_t>(count) * element);
-    for (size_t at = 0; at < bytes.size(); at += element) {
-        const auto whole = static_cast<int32_t>(between(random_, -limit, limit));
-        const double real = std::uniform_real_distribution<double>(-1, 1)(random_);
-        const auto single = chance(random_, 30) ? static_cast<float>(whole) * 0.25f : static_cast<float>(real);
-        if (param(i).type == "32s") std::memcpy(bytes.data() + at, &whole, 4);
-        if (param(i).type == "32f") std::memcpy(bytes.data() + at, &single, 4);
-        if (param(i).type == "64f") std::memcpy(bytes.data() + at, &real, 8);
-    }
-}
-
 int64_t Builder::chooseStep(int64_t rowBytes, bool written) {
     const int64_t kind = between(random_, 1, 100);
     if (kind <= 35) return rowBytes;
     if (kind <= 65) return rowBytes + between(random_, 0, 40);
-    const bool refused = isFilter() && !call_.member->family.starts_with("SumWindow");
-    if (kind <= 85 || refused) return (rowBytes + 31) & ~31;
+    if (kind <= 85 || facts().rows == Rows::Apart) return (rowBytes + 31) & ~31;
     if (kind <= 92) return -(rowBytes + between(random_, 0, 17));
-    if (written && call_.member->family == "Transpose") return rowBytes; // the order of overlapping rows is free there
+    if (written && facts().rows == Rows::WrittenApart) return rowBytes;
     if (kind <= 95) return 0;
     return between(random_, 1, rowBytes);
 }
 
 void Builder::chooseSteps() {
-    for (int i = 0; i < call_.member->count; ++i) {
+    for (int i = 0; i < member().count; ++i) {
         const Param& p = param(i);
         if (!isImage(p.role)) continue;
-        const int64_t bytes =
-            p.type == "1u" ? rowBytes(p, areaOf(p).width()) : areaOf(p).width() * p.elements * elementBytes(p.type);
+        const int64_t width = areaOf(i).width();
+        const int64_t bytes = p.type == "1u" ? rowBytes(p, width) : width * p.elements * elementBytes(p.type);
         int64_t step = chooseStep(bytes, isWritten(p.role));
         if (p.type.starts_with("32f") && std::abs(step) < bytes) step &= ~3; // rows that overlap do so by whole floats
-        arg(i + 1).num = p.role == Role::Inside ? std::max(step, bytes) : step;
+        arg(member().stepOf(i)).num = p.role == Role::Inside ? std::max(step, bytes) : step;
     }
 }
 
-void Builder::breakOne() { breakArgument(static_cast<int>(between(random_, 0, call_.member->count - 1))); }
+void Builder::breakOne() { breakArgument(static_cast<int>(between(random_, 0, member().count - 1))); }
 
 void Builder::breakArgument(int i) {
     switch (param(i).role) {
     case Role::Size:
         return breakSize(i);
     case Role::Integer:
-        return breakInteger(i);
+    case Role::Real:
+        return breakNumber(i);
     case Role::Step:
         arg(i).num = 4 * between(random_, -1, 0);
         return;
     case Role::Point:
         (chance(random_, 50) ? arg(i).width : arg(i).height) = chance(random_, 50) ? -1 : 100;
         return;
-    case Role::Real:
-        named("vMax").real = named("vMin").real - (chance(random_, 50) ? 1 : 0);
-        return;
     case Role::Element:
-        if (param(i).type.ends_with("c")) std::ranges::fill(call_.arrays[static_cast<size_t>(i)], uint8_t{0});
         arg(i).num = 0;
         arg(i).real = 0;
-        return;
+        return breakArray(i);
     case Role::Values:
-        if (chance(random_, 50)) return call_.nulls[static_cast<size_t>(i)].flip();
-        std::ranges::fill(call_.arrays[static_cast<size_t>(i)], uint8_t{0});
-        return;
-    case Role::Order: {
-        const int32_t entry = chance(random_, 50) ? -1 : chance(random_, 50) ? 3 : 4;
-        std::memcpy(call_.arrays[static_cast<size_t>(i)].data() + 4 * between(random_, 0, param(i).count - 1), &entry,
-                    4);
-        if (chance(random_, 30)) call_.nulls[static_cast<size_t>(i)] = true;
-        return;
-    }
+    case Role::Order:
+    case Role::Rect:
+        return breakArray(i);
     case Role::Buffer:
         return;
     default:
@@ -314,27 +259,42 @@ void Builder::breakSize(int i) {
     const int64_t which = between(random_, 1, 100);
     if (which <= 60) a.width = badSize();
     if (which > 40) a.height = badSize();
-    if (param(i).name == "dstSize" && chance(random_, 50)) {
-        a = named("srcSize");
-        a.width = static_cast<int32_t>(a.width + named("borderLeft").num - 1); // may wrap
+    if (param(i).meaning == Meaning::Outer && chance(random_, 50)) {
+        a = arg(region_);
+        a.width = static_cast<int32_t>(a.width + arg(Meaning::BorderLeft).num - 1); // may wrap
     }
 }
 
-void Builder::breakInteger(int i) {
-    const std::string_view name = param(i).name;
+void Builder::breakNumber(int i) {
+    const Param& p = param(i);
     auto& value = arg(i).num;
-    if (name == "flip" || name == "roundMode")
-        value = chance(random_, 50) ? 3 : -1;
-    else if (name.starts_with("border"))
+    switch (p.meaning) {
+    case Meaning::BorderTop:
+    case Meaning::BorderLeft:
         value = chance(random_, 50) ? -1 : INT32_MAX - between(random_, 0, 5);
-    else if (name.ends_with("BitOffset"))
+        return;
+    case Meaning::BitOffset:
         value = -between(random_, 1, 9);
-    else if (name == "divisor")
+        return;
+    case Meaning::Divisor:
         value = 0;
-    else if (name == "kernelSize" || name == "maskSize")
+        return;
+    case Meaning::WindowSize:
+    case Meaning::Count:
         value = between(random_, -1, 0);
-    else if (name == "anchor")
+        return;
+    case Meaning::WindowAnchor:
         value = chance(random_, 50) ? -1 : 1000;
+        return;
+    case Meaning::RangeLow:
+    case Meaning::RangeHigh:
+        arg(Meaning::RangeHigh).real = arg(Meaning::RangeLow).real - (chance(random_, 50) ? 1 : 0);
+        return;
+    default:
+        if (!p.valid.limited) return;
+        value = static_cast<int64_t>(chance(random_, 50) ? p.valid.high + 1 : p.valid.low - 1);
+        arg(i).real = static_cast<double>(value);
+    }
 }
 
 } // namespace generic

@@ -1,5 +1,5 @@
-// Builds one random call: numbers first (arguments.cpp), then, for whatever region they describe, the places of the
-// images in memory (placement.cpp).
+// Builds one random call: numbers first (arguments.cpp), then what arrays hold (arrays.cpp), then, for whatever region the
+// numbers describe, the places of images and arrays in memory (placement.cpp).
 #pragma once
 
 #include <utility>
@@ -27,40 +27,55 @@ public:
     Call place();
 
 private:
+    using Bytes = std::vector<uint8_t>;
+
+    const Member& member() const { return *call_.member; }
+    const Facts& facts() const { return call_.member->facts; }
     const Param& param(int i) const { return call_.member->params[i]; }
     reference::Arg& arg(int i) { return call_.args[static_cast<size_t>(i)]; }
-    bool has(std::string_view name) const { return call_.member->find(name) >= 0; }
-    reference::Arg& named(std::string_view name) { return arg(call_.member->find(name)); }
-    bool isFilter() const;
+    reference::Arg& arg(Meaning meaning) { return arg(member().find(meaning)); }
+    std::vector<Bytes>& contents(int i) { return contents_[static_cast<size_t>(i)]; }
 
+    // Numbers.
     void chooseSizes();
-    void chooseBorderSizes(int64_t width, int64_t height);
-    void chooseWindow();
-    void chooseScalar(int i);
-    void chooseInteger(int i);
+    void chooseRegion(reference::Arg& size);
+    void chooseOuter(const reference::Arg& inner, reference::Arg& outer);
+    void chooseWindow(const Window& window);
+    void chooseSide(int64_t& length, int64_t& anchor, bool mirrored, int64_t limit);
+    void chooseNumber(int i);
+    int64_t randomNumber(const Param& p);
+    int64_t validNumber(const Valid& valid);
     void chooseElement(int i);
-    void chooseArray(int i);
-    void chooseKernel(int i);
     void chooseSteps();
     int64_t chooseStep(int64_t rowBytes, bool written);
     void breakSize(int i);
-    void breakInteger(int i);
+    void breakPoint(int i);
+    void breakNumber(int i);
 
-    // What an image parameter covers, in pixels relative to its pointer.
-    struct Area {
-        int64_t x0, y0, x1, y1;
-        int64_t width() const { return x1 - x0; }
-        int64_t height() const { return y1 - y0; }
-    };
-    Area areaOf(const Param& p);
+    // Arrays.
+    void chooseArray(int i);
+    Bytes randomArray(const Param& p, int64_t count);
+    Bytes randomTaps(const Param& p, int64_t count);
+    int64_t entries(const Param& p, int channel);
+    void breakArray(int i);
+
+    // Places.
+    Area plainArea(int i);
+    Area areaOf(int i); // with what a window reads around it
+    Area around(Area area, const Window& window);
     int64_t rowBytes(const Param& p, int64_t width);
     Reach reachOf(int i);
     void placeImages();
+    void placeImage(int i);
+    void placeArray(int i);
+    void placePointers(int i);
     bool mayOverlap(int source, int destination);
     void placeOverlapping(int source, int destination);
 
     Random& random_;
     Call call_;
+    int region_ = -1;                          // the size that comes first
+    std::vector<std::vector<Bytes>> contents_; // of arrays, by parameter and channel
 };
 
 } // namespace generic

@@ -1,4 +1,5 @@
 // The bytes that images hold before a call.
+#include <algorithm>
 #include <cstring>
 
 #include "generic/builder.h"
@@ -44,13 +45,14 @@ void fillImage(const Param& p, bool tame, uint8_t* bytes, size_t size, Random& r
 void fillMemory(const Call& call, int memory, uint8_t* bytes, Random& random) {
     const Reach window = call.window(memory);
     fillWords(bytes + window.low, static_cast<size_t>(window.length()), [&] { return random(); });
-    // Running sums keep what an infinity did to them.
-    const bool tame = call.member->family == "FilterBox";
-    for (const Placed& image : call.images) {
-        if (image.memory != memory) continue;
-        const Reach r = call.reaches[static_cast<size_t>(image.param)];
-        fillImage(call.member->params[image.param], tame, bytes + image.position + r.low,
-                  static_cast<size_t>(r.length()), random);
+    for (const Placed& operand : call.operands) {
+        if (operand.memory != memory) continue;
+        const Param& p = call.member->params[operand.param];
+        uint8_t* first = bytes + operand.position + operand.reach.low;
+        if (isImage(p.role))
+            fillImage(p, call.member->facts.runningSums, first, static_cast<size_t>(operand.reach.length()), random);
+        else if (p.role != Role::Result)
+            std::ranges::copy(operand.bytes, first);
     }
 }
 

@@ -1,6 +1,7 @@
-// The places of a call's images: every one between inaccessible pages, mostly touching one of them, some of them
-// overlapping.
+// The places of a call's images and arrays: every one between inaccessible pages, mostly touching one of them, some of the
+// images overlapping.
 #include <algorithm>
+#include <cstring>
 
 #include "generic/builder.h"
 
@@ -12,37 +13,71 @@ constexpr int64_t longest = 2000; // sides that no valid call has; what they des
 
 } // namespace
 
-Builder::Area Builder::areaOf(const Param& p) {
-    if (p.role == Role::Inside) {
-        const auto& dst = named("dstSize");
-        const int64_t top = named("borderTop").num, left = named("borderLeft").num;
-        return {-left, -top, dst.width - left, dst.height - top};
+Area Builder::plainArea(int i) {
+    const Region& region = param(i).region;
+    if (param(i).role == Role::Inside) {
+        const auto& outer = arg(Meaning::Outer);
+        const int64_t top = arg(Meaning::BorderTop).num, left = arg(Meaning::BorderLeft).num;
+        return {-left, -top, outer.width - left, outer.height - top};
     }
-    if (p.bound == "transposed") return {0, 0, named("roiSize").height, named("roiSize").width};
-    if (p.bound.ends_with("Size")) return {0, 0, named(p.bound).width, named(p.bound).height};
-    // Regions read beyond their edges: before and behind them, in x and y.
-    const auto& roi = named("roiSize");
-    int64_t before[2] = {0, 0}, behind[2] = {0, 0};
-    const auto reach = [&](int axis, int64_t length, int64_t anchor, bool mirrored) {
-        before[axis] = mirrored ? length - 1 - anchor : anchor;
-        behind[axis] = mirrored ? anchor : length - 1 - anchor;
-    };
-    if (p.bound == "kernel" || p.bound == "mask") {
-        const auto& size = named(p.bound == "kernel" ? "kernelSize" : "maskSize");
-        reach(0, size.width, named("anchor").width, p.bound == "kernel");
-        reach(1, size.height, named("anchor").height, p.bound == "kernel");
+    if (region.shape == Shape::Block) return {0, 0, 8, 8};
+    const auto& a = arg(region.a);
+    if (!contents(region.a).empty()) { // a rectangle
+        int32_t rect[4];
+        std::memcpy(rect, contents(region.a)[0].data(), sizeof rect);
+        return {rect[0], rect[1], int64_t{rect[0]} + rect[2], int64_t{rect[1]} + rect[3]};
     }
-    if (p.bound == "row") reach(0, named("kernelSize").num, named("xAnchor").num, true);
-    if (p.bound == "column") reach(1, named("kernelSize").num, named("yAnchor").num, true);
-    if (p.bound == "windowRow") reach(0, named("maskSize").num, named("anchor").num, false);
-    if (p.bound == "windowColumn") reach(1, named("maskSize").num, named("anchor").num, false);
-    return {-before[0], -before[1], roi.width + behind[0], roi.height + behind[1]};
+    if (region.shape == Shape::Plain) return {0, 0, a.width, a.height};
+    if (region.shape == Shape::Transposed) return {0, 0, a.height, a.width};
+    const auto& b = arg(region.b);
+    if (region.shape == Shape::OwnWidth) return {0, 0, a.num, b.height};
+    if (region.shape == Shape::Joined) return {0, 0, int64_t{a.width} + b.width - 1, int64_t{a.height} + b.height - 1};
+    return {0, 0, std::abs(int64_t{a.width} - b.width) + 1, std::abs(int64_t{a.height} - b.height) + 1};
 }
+
+// With what a window reads around the area, before and behind it.
+Area Builder::around(Area area, const Window& window) {
+    const auto widen = [&](bool x, int64_t before, int64_t behind) {
+        (x ? area.x0 : area.y0) -= before;
+        (x ? area.x1 : area.y1) += behind;
+    };
+    const auto reach = [&](bool x, int64_t length, int64_t anchor) {
+        const int64_t before = window.mirrored ? length - 1 - anchor : anchor;
+        widen(x, before, length - 1 - before);
+    };
+    switch (window.kind) {
+    case Window::None:
+        break;
+    case Window::Sized:
+        reach(true, arg(window.size).width, arg(window.anchor).width);
+        reach(false, arg(window.size).height, arg(window.anchor).height);
+        break;
+    case Window::Row:
+    case Window::Column:
+        reach(window.kind == Window::Row, arg(window.size).num, arg(window.anchor).num);
+        break;
+    case Window::Code:
+        reach(true, arg(window.size).num / 10, arg(window.size).num / 20);
+        reach(false, arg(window.size).num % 10, arg(window.size).num % 10 / 2);
+        break;
+    case Window::Radius:
+        widen(true, arg(window.size).num, arg(window.size).num);
+        widen(false, arg(window.size).num, arg(window.size).num);
+        break;
+    case Window::Fixed:
+        widen(true, window.sides[0], window.sides[2]);
+        widen(false, window.sides[1], window.sides[3]);
+        break;
+    }
+    return area;
+}
+
+Area Builder::areaOf(int i) { return around(plainArea(i), param(i).region.window); }
 
 // The bytes of a row up to the last element that may be touched.
 int64_t Builder::rowBytes(const Param& p, int64_t width) {
     if (width < 1) return 0;
-    if (p.type == "1u") return (named(p.role == Role::Source ? "srcBitOffset" : "dstBitOffset").num + width + 7) / 8;
+    if (p.type == "1u") return (arg(Meaning::BitOffset).num + width + 7) / 8;
     // A one-channel operand ends at its element, and the fourth element of an AC4 source is nobody's.
     const int64_t last = p.channels == 1 ? 1 : isWritten(p.role) ? p.elements : p.channels;
     return ((width - 1) * p.elements + last) * elementBytes(p.type);
@@ -50,13 +85,12 @@ int64_t Builder::rowBytes(const Param& p, int64_t width) {
 
 Reach Builder::reachOf(int i) {
     const Param& p = param(i);
-    const Area area = areaOf(p);
+    const Area area = areaOf(i);
     if (area.width() < 1 || area.height() < 1 || area.width() > longest || area.height() > longest) return {0, 64};
     if (area.x0 < -longest || area.y0 < -longest) return {0, 64};
     const int64_t pixel = int64_t{p.elements} * elementBytes(p.type);
-    int64_t step = arg(i + 1).num;
-    const std::string_view family = call_.member->family;
-    if (family == "FilterBox" || family.starts_with("SumWindow")) step &= -elementBytes(p.type);
+    int64_t step = arg(member().stepOf(i)).num;
+    if (facts().wholeElementSteps) step &= -elementBytes(p.type);
     if (p.role == Role::Inside && step < 0) return {0, 64};
     const int64_t first = area.y0 * step, last = (area.y1 - 1) * step;
     return {std::min(first, last) + area.x0 * pixel,
@@ -65,37 +99,61 @@ Reach Builder::reachOf(int i) {
 
 // Floats that overlap by parts would make numbers of the payloads of NaN, which no definition fixes.
 bool Builder::mayOverlap(int source, int destination) {
-    const std::string_view family = call_.member->family;
-    if (family == "Transpose" || family.ends_with("Border") || isFilter()) return false;
-    const bool whole = arg(source + 1).num % 4 == 0 && arg(destination + 1).num % 4 == 0;
-    return whole || !param(destination).type.starts_with("32f");
+    if (!facts().mayOverlap) return false;
+    const auto isWhole = [&](int image) { return arg(member().stepOf(image)).num % 4 == 0; };
+    return (isWhole(source) && isWhole(destination)) || !param(destination).type.starts_with("32f");
 }
 
 void Builder::placeOverlapping(int source, int destination) {
-    const Reach s = call_.reaches[static_cast<size_t>(source)];
+    auto& sourceStep = arg(member().stepOf(source)).num;
+    const Reach s = reachOf(source);
     const bool exact = chance(random_, 40);
-    if (exact) arg(destination + 1).num = arg(source + 1).num;
-    int64_t delta = exact                 ? 0
-                    : chance(random_, 30) ? arg(source + 1).num * between(random_, -1, 1)
-                                          : between(random_, -70, 70);
+    if (exact) arg(member().stepOf(destination)).num = sourceStep;
+    int64_t delta = exact ? 0 : chance(random_, 30) ? sourceStep * between(random_, -1, 1) : between(random_, -70, 70);
     if (param(destination).type.starts_with("32f")) delta &= ~3;
     const Reach d = reachOf(destination);
-    call_.reaches[static_cast<size_t>(destination)] = d;
     const int64_t low = std::min(s.low, delta + d.low), high = std::max(s.high, delta + d.high);
     const int64_t base = chance(random_, 50) ? -low : memorySize - high;
-    call_.images.push_back({source, 0, call_.memories, base});
-    call_.images.push_back({destination, 0, call_.memories, base + delta});
+    call_.operands.push_back({source, 0, call_.memories, base, s, plainArea(source)});
+    call_.operands.push_back({destination, 0, call_.memories, base + delta, d, plainArea(destination)});
     ++call_.memories;
 }
 
+void Builder::placeImage(int i) {
+    const Reach r = reachOf(i);
+    for (int plane = 0; plane < std::max(1, param(i).planes); ++plane) {
+        const int64_t slack = chance(random_, 80) ? 0 : between(random_, 0, 40);
+        const int64_t position = chance(random_, 40) ? slack - r.low : memorySize - slack - r.high;
+        call_.operands.push_back({i, plane, call_.memories++, position, r, plainArea(i)});
+    }
+    placePointers(i);
+}
+
+// Arrays end where their memory does, or begin where it begins.
+void Builder::placeArray(int i) {
+    if (param(i).role == Role::Buffer && (param(i).count.fixed < 0 || chance(random_, 50))) {
+        call_.nulls[static_cast<size_t>(i)] = true;
+        return;
+    }
+    int plane = 0;
+    for (Bytes& bytes : contents(i)) {
+        const auto size = static_cast<int64_t>(bytes.size());
+        const int64_t position = chance(random_, 80) ? memorySize - size : 0;
+        call_.operands.push_back({i, plane++, call_.memories++, position, {0, size}, {}, std::move(bytes)});
+    }
+    placePointers(i);
+}
+
+void Builder::placePointers(int i) {
+    if (param(i).planes > 0) call_.pointers[static_cast<size_t>(i)] = call_.memories++;
+}
+
 void Builder::placeImages() {
-    const Member& m = *call_.member;
     std::vector<int> images, sources;
     int destination = -1;
-    for (int i = 0; i < m.count; ++i) {
+    for (int i = 0; i < member().count; ++i) {
         if (!isImage(param(i).role)) continue;
         images.push_back(i);
-        call_.reaches[static_cast<size_t>(i)] = reachOf(i);
         if (param(i).planes == 0 && param(i).role == Role::Source) sources.push_back(i);
         if (param(i).planes == 0 && isWritten(param(i).role)) destination = i;
     }
@@ -107,24 +165,21 @@ void Builder::placeImages() {
             std::erase(images, destination);
         }
     }
-    for (const int i : images)
-        for (int plane = 0; plane < std::max(1, param(i).planes); ++plane) {
-            const Reach r = call_.reaches[static_cast<size_t>(i)];
-            const int64_t slack = chance(random_, 80) ? 0 : between(random_, 0, 40);
-            const int64_t position = chance(random_, 40) ? slack - r.low : memorySize - slack - r.high;
-            call_.images.push_back({i, plane, call_.memories++, position});
-        }
+    for (const int i : images) placeImage(i);
 }
 
 Call Builder::place() {
     placeImages();
-    for (size_t i = 0; i < call_.nulls.size(); ++i)
-        if (call_.nulls[i] && param(static_cast<int>(i)).planes > 0 && chance(random_, 60)) {
-            call_.nulls[i] = false; // one plane instead of the array
-            const int plane = static_cast<int>(between(random_, 0, param(static_cast<int>(i)).planes - 1));
-            for (Placed& image : call_.images)
-                if (image.param == static_cast<int>(i) && image.plane == plane) image.null = true;
-        }
+    for (int i = 0; i < member().count; ++i)
+        if (isArray(param(i))) placeArray(i);
+    for (int i = 0; i < member().count; ++i) {
+        const auto at = static_cast<size_t>(i);
+        if (!call_.nulls[at] || call_.pointers[at] < 0 || !chance(random_, 60)) continue;
+        call_.nulls[at] = false; // one plane instead of the array
+        const int plane = static_cast<int>(between(random_, 0, param(i).planes - 1));
+        for (Placed& operand : call_.operands)
+            if (operand.param == i && operand.plane == plane) operand.null = true;
+    }
     return std::move(call_);
 }
 

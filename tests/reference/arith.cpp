@@ -6,7 +6,6 @@
 
 #include <algorithm>
 
-#include "families.h"
 #include "pointwise.h"
 #include "scaling.h"
 
@@ -135,8 +134,12 @@ Operation sumOrProduct(const Member& member, int32_t scaleFactor) {
     return type.isFloat ? onFloats(type, op) : onIntegers(type, op, scaleFactor);
 }
 
-int32_t add(const Member& member, const Arg* args) { return sumOrProductOfImages(member, args); }
-int32_t sub(const Member& member, const Arg* args) { return sumOrProductOfImages(member, args); }
-int32_t mul(const Member& member, const Arg* args) { return sumOrProductOfImages(member, args); }
+namespace {
+
+const Registered addFamily("Add", sumOrProductOfImages);
+const Registered subFamily("Sub", sumOrProductOfImages);
+const Registered mulFamily("Mul", sumOrProductOfImages);
+
+} // namespace
 
 } // namespace reference

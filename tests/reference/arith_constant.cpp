@@ -3,7 +3,6 @@
 // The 8u members hand some scale factors and a constant of 0 to Copy or Set. Those look at fewer arguments than have
 // been checked by then and give the same elements, so that the shortcuts cannot be seen.
 #include "arith.h"
-#include "families.h"
 #include "pointwise.h"
 
 namespace reference {
@@ -40,12 +39,6 @@ void timesReciprocal(const Element& type, const uint8_t* value, const uint8_t* s
     writeReal(type, dst, static_cast<double>(product));
 }
 
-} // namespace
-
-int32_t addC(const Member& member, const Arg* args) { return sumOrProductWithConstant(member, args); }
-int32_t subC(const Member& member, const Arg* args) { return sumOrProductWithConstant(member, args); }
-int32_t mulC(const Member& member, const Arg* args) { return sumOrProductWithConstant(member, args); }
-
 int32_t divC(const Member& member, const Arg* args) {
     const Call call = imageAndConstant(member, args);
     if (const int32_t status = checkRegionFirst(member, call, true); status != ok) return status;
@@ -61,5 +54,12 @@ int32_t divC(const Member& member, const Arg* args) {
     }
     return ok;
 }
+
+const Registered addCFamily("AddC", sumOrProductWithConstant);
+const Registered subCFamily("SubC", sumOrProductWithConstant);
+const Registered mulCFamily("MulC", sumOrProductWithConstant);
+const Registered divCFamily("DivC", divC);
+
+} // namespace
 
 } // namespace reference

@@ -6,7 +6,7 @@
 // right. Errors carry 13 fractional bits; what would leave the row on either side is lost.
 #include <vector>
 
-#include "families.h"
+#include "bits.h"
 #include "image.h"
 
 namespace reference {

@@ -2,7 +2,6 @@
 // or continues the source periodically.
 #include <algorithm>
 
-#include "families.h"
 #include "image.h"
 
 namespace reference {
@@ -66,8 +65,6 @@ int32_t extend(const Member& member, const Arg* args, Fold fold) {
     return ok;
 }
 
-} // namespace
-
 int32_t copyConstBorder(const Member& member, const Arg* args) {
     const Call call = callOf(member, args);
     const Arg& value = args[8];
@@ -91,5 +88,11 @@ int32_t copyConstBorder(const Member& member, const Arg* args) {
 int32_t copyReplicateBorder(const Member& member, const Arg* args) { return extend(member, args, nearest); }
 
 int32_t copyWrapBorder(const Member& member, const Arg* args) { return extend(member, args, periodic); }
+
+const Registered copyConstBorderFamily("CopyConstBorder", copyConstBorder);
+const Registered copyReplicateBorderFamily("CopyReplicateBorder", copyReplicateBorder);
+const Registered copyWrapBorderFamily("CopyWrapBorder", copyWrapBorder);
+
+} // namespace
 
 } // namespace reference

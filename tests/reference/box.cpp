@@ -6,7 +6,6 @@
 #include <utility>
 #include <vector>
 
-#include "families.h"
 #include "image.h"
 
 namespace reference {
@@ -191,22 +190,42 @@ void filterIntegers(const Member& member, const Call& call, const Image& src, co
         [&](uint8_t* element, uint32_t sum) { writeInt(type, element, mean(static_cast<int32_t>(sum))); });
 }
 
+Image below(Image image, int64_t rows) {
+    for (auto& first : image.channel) {
+        if (first) first += rows * image.step;
+    }
+    return image;
+}
+
+// How many blocks of rows a call is split into, one for each thread of a team.
+int64_t blocksOf(const Member& member, const Call& call) {
+    const bool large = int64_t{call.roi.width} * call.roi.height > 4096;
+    return member.mode == "R" && (member.layout == "C4" || large) ? team : 1;
+}
+
+// Every block begins its sums afresh.
 void filterFloats(const Member& member, const Call& call, const Image& src, const Image& dst, float reciprocal) {
     const Element type = elementOf(member.src);
-    filterChannels<float>(
-        call, src, dst, [=](const uint8_t* sample) { return static_cast<float>(readReal(type, sample)); },
-        [=](uint8_t* element, float sum) {
-            const float mean = sum * reciprocal;
-            writeReal(type, element, static_cast<double>(mean));
-        });
+    const int64_t blocks = blocksOf(member, call);
+    for (int64_t i = 0; i < blocks; ++i) {
+        const int64_t first = call.roi.height * i / blocks;
+        Arg rows = call.roi;
+        rows.height = static_cast<int32_t>(call.roi.height * (i + 1) / blocks - first);
+        if (rows.height == 0) continue;
+        filterChannels<float>(
+            {call.src, call.srcStep, call.dst, call.dstStep, rows, call.mask, call.anchor}, below(src, first),
+            below(dst, first), [=](const uint8_t* sample) { return static_cast<float>(readReal(type, sample)); },
+            [=](uint8_t* element, float sum) {
+                const float mean = sum * reciprocal;
+                writeReal(type, element, static_cast<double>(mean));
+            });
+    }
 }
 
 // Running sums in single precision would not give every sample back.
 void copyPixels(const Call& call, const Image& src, const Image& dst) {
     forEachPixel(call.roi, [&](int64_t x, int64_t y) { dst.store(x, y, src.load(x, y)); });
 }
-
-} // namespace
 
 int32_t filterBox(const Member& member, const Arg* args) {
     const Call call = callOf(member, args);
@@ -226,5 +245,9 @@ int32_t filterBox(const Member& member, const Arg* args) {
     }
     return ok;
 }
+
+const Registered filterBoxFamily("FilterBox", filterBox);
+
+} // namespace
 
 } // namespace reference

@@ -1,5 +1,5 @@
 // Convert keeps the number: it widens exactly, saturates where the destination is narrower, and rounds floats as asked.
-#include "families.h"
+#include "bits.h"
 #include "image.h"
 
 namespace reference {
@@ -47,8 +47,6 @@ void convertElement(const Element& srcType, const uint8_t* src, const Element& d
     }
 }
 
-} // namespace
-
 int32_t convert(const Member& member, const Arg* args) {
     if (member.dst == "1u") return packBits(args);
     if (member.src == "1u") return unpackBits(args);
@@ -67,5 +65,9 @@ int32_t convert(const Member& member, const Arg* args) {
     });
     return ok;
 }
+
+const Registered convertFamily("Convert", convert);
+
+} // namespace
 
 } // namespace reference

@@ -1,7 +1,6 @@
 // Copy moves elements bit for bit between layouts; Dup spreads one channel over three.
 #include <algorithm>
 
-#include "families.h"
 #include "image.h"
 
 namespace reference {
@@ -20,8 +19,6 @@ void copyElements(const Image& src, const Image& dst, const Arg& roi) {
         }
     });
 }
-
-} // namespace
 
 int32_t copy(const Member& member, const Arg* args) {
     const Arg& roi = args[4];
@@ -48,8 +45,6 @@ int32_t copy(const Member& member, const Arg* args) {
     return ok;
 }
 
-int32_t copyManaged(const Member& member, const Arg* args) { return copy(member, args); }
-
 int32_t dup(const Member& member, const Arg* args) {
     const Arg& roi = args[4];
     const Element type = elementOf(member.src);
@@ -67,5 +62,11 @@ int32_t dup(const Member& member, const Arg* args) {
     });
     return ok;
 }
+
+const Registered copyFamily("Copy", copy);
+const Registered copyManagedFamily("CopyManaged", copy);
+const Registered dupFamily("Dup", dup);
+
+} // namespace
 
 } // namespace reference

@@ -5,7 +5,6 @@
 #include <limits>
 
 #include "arith.h"
-#include "families.h"
 #include "pointwise.h"
 #include "scaling.h"
 
@@ -167,6 +166,8 @@ Division quotient(const Member& member, int32_t scaleFactor) {
     return onIntegers(type, scaleFactor, divideShorts);
 }
 
+namespace {
+
 int32_t div(const Member& member, const Arg* args) {
     const Call call = twoImages(member, args);
     if (const int32_t status = check(member, call); status != ok) return status;
@@ -177,5 +178,9 @@ int32_t div(const Member& member, const Arg* args) {
     });
     return status;
 }
+
+const Registered divFamily("Div", div);
+
+} // namespace
 
 } // namespace reference

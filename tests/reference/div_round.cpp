@@ -2,7 +2,6 @@
 #include <cmath>
 
 #include "arith.h"
-#include "families.h"
 #include "pointwise.h"
 #include "scaling.h"
 
@@ -34,8 +33,6 @@ int64_t divide(const Element& type, int64_t y, int64_t x, double factor, int64_t
     return static_cast<int64_t>(rounded(q, mode));
 }
 
-} // namespace
-
 int32_t divRound(const Member& member, const Arg* args) {
     const Call call = twoImages(member, args);
     const int64_t mode = call.rest[0].num;
@@ -53,5 +50,9 @@ int32_t divRound(const Member& member, const Arg* args) {
     });
     return status;
 }
+
+const Registered divRoundFamily("Div_Round", divRound);
+
+} // namespace
 
 } // namespace reference

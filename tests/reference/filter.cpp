@@ -6,7 +6,6 @@
 
 #include <cstring>
 
-#include "families.h"
 #include "filter_rounding.h"
 
 namespace reference {
@@ -151,6 +150,8 @@ int32_t runFilter(const Member& member, const FilterCall& call) {
     return ok;
 }
 
+namespace {
+
 int32_t filter(const Member& member, const Arg* args) {
     const Arg& kernelSize = args[6];
     const Arg& anchor = args[7];
@@ -178,5 +179,14 @@ int32_t filterGetBufSize(const Member&, const Arg* args) {
     std::memcpy(const_cast<void*>(size.ptr), &none, sizeof none);
     return ok;
 }
+
+const Registered filterFamily("Filter", filter);
+const Registered filter32fFamily("Filter32f", filter);
+const Registered filterRound16sFamily("Filter_Round16s", filter);
+const Registered filterRound32sFamily("Filter_Round32s", filter);
+const Registered filterRound32fFamily("Filter_Round32f", filter);
+const Registered filterGetBufSizeFamily("FilterGetBufSize", filterGetBufSize);
+
+} // namespace
 
 } // namespace reference

@@ -1,5 +1,4 @@
 // Filters with a kernel of one row or one column.
-#include "families.h"
 #include "filter.h"
 
 namespace reference {
@@ -10,8 +9,6 @@ namespace {
 FilterCall lineCall(const Member& member, const Arg* args) {
     return {.images = args, .kernel = args + 5, .divisor = hasIntegerKernel(member) ? args + 8 : nullptr};
 }
-
-} // namespace
 
 int32_t filterRow(const Member& member, const Arg* args) {
     FilterCall call = lineCall(member, args);
@@ -26,5 +23,12 @@ int32_t filterColumn(const Member& member, const Arg* args) {
     call.anchorY = args[7].num;
     return runFilter(member, call);
 }
+
+const Registered filterRowFamily("FilterRow", filterRow);
+const Registered filterRow32fFamily("FilterRow32f", filterRow);
+const Registered filterColumnFamily("FilterColumn", filterColumn);
+const Registered filterColumn32fFamily("FilterColumn32f", filterColumn);
+
+} // namespace
 
 } // namespace reference

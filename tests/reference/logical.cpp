@@ -1,5 +1,4 @@
 // And, Or, Xor of two images or of an image and a constant, and Not.
-#include "families.h"
 #include "image.h"
 #include "pointwise.h"
 
@@ -39,16 +38,6 @@ int32_t logicalWithConstant(const Member& member, const Arg* args) {
     return logical(member, imageAndConstant(member, args));
 }
 
-} // namespace
-
-int32_t bitAnd(const Member& member, const Arg* args) { return logicalOfImages(member, args); }
-int32_t bitOr(const Member& member, const Arg* args) { return logicalOfImages(member, args); }
-int32_t bitXor(const Member& member, const Arg* args) { return logicalOfImages(member, args); }
-
-int32_t bitAndC(const Member& member, const Arg* args) { return logicalWithConstant(member, args); }
-int32_t bitOrC(const Member& member, const Arg* args) { return logicalWithConstant(member, args); }
-int32_t bitXorC(const Member& member, const Arg* args) { return logicalWithConstant(member, args); }
-
 int32_t bitNot(const Member& member, const Arg* args) {
     const Call call = oneImage(member, args);
     if (const int32_t status = checkStepsFirst(member, call); status != ok) return status;
@@ -57,5 +46,15 @@ int32_t bitNot(const Member& member, const Arg* args) {
                    [&](const uint8_t*, const uint8_t* src, uint8_t* dst) { writeInt(type, dst, ~readInt(type, src)); });
     return ok;
 }
+
+const Registered andFamily("And", logicalOfImages);
+const Registered orFamily("Or", logicalOfImages);
+const Registered xorFamily("Xor", logicalOfImages);
+const Registered andCFamily("AndC", logicalWithConstant);
+const Registered orCFamily("OrC", logicalWithConstant);
+const Registered xorCFamily("XorC", logicalWithConstant);
+const Registered notFamily("Not", bitNot);
+
+} // namespace
 
 } // namespace reference

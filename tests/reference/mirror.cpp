@@ -1,5 +1,4 @@
 // Mirror reverses the rows, the columns or both. Pixels move whole; the alpha element of AC4 stays where it is.
-#include "families.h"
 #include "image.h"
 
 namespace reference {
@@ -35,8 +34,6 @@ void mirrorInPlace(const Image& image, const Arg& roi, Flip flip) {
     });
 }
 
-} // namespace
-
 int32_t mirror(const Member& member, const Arg* args) {
     const bool inPlace = member.mode == "IR";
     const Arg* dstArgs = inPlace ? args : args + 2;
@@ -56,5 +53,9 @@ int32_t mirror(const Member& member, const Arg* args) {
     }
     return ok;
 }
+
+const Registered mirrorFamily("Mirror", mirror);
+
+} // namespace
 
 } // namespace reference

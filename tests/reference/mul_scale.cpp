@@ -1,5 +1,4 @@
 // MulScale and MulCScale: a product of two unsigned values, divided by the type's highest value with shifts.
-#include "families.h"
 #include "image.h"
 #include "pointwise.h"
 
@@ -18,12 +17,15 @@ int32_t normalisedProduct(const Member& member, const Call& call) {
     return ok;
 }
 
-} // namespace
-
 int32_t mulScale(const Member& member, const Arg* args) { return normalisedProduct(member, twoImages(member, args)); }
 
 int32_t mulCScale(const Member& member, const Arg* args) {
     return normalisedProduct(member, imageAndConstant(member, args));
 }
+
+const Registered mulScaleFamily("MulScale", mulScale);
+const Registered mulCScaleFamily("MulCScale", mulCScale);
+
+} // namespace
 
 } // namespace reference

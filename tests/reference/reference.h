@@ -34,7 +34,33 @@ struct Member {
 
 using Function = int32_t (*)(const Member&, const Arg*);
 
-// The reference of a family, or null where there is none.
-Function find(std::string_view family);
+// Makes a function the reference of a family, at the bottom of the file that defines it.
+class Registered {
+public:
+    Registered(std::string_view family, Function function) : family_(family), function_(function), next_(first_) {
+        first_ = this;
+    }
+    Registered(const Registered&) = delete;
+    Registered& operator=(const Registered&) = delete;
+
+    // The reference of a family, or null where there is none.
+    static Function find(std::string_view family) {
+        for (const Registered* r = first_; r; r = r->next_)
+            if (r->family_ == family) return r->function_;
+        return nullptr;
+    }
+
+private:
+    static inline const Registered* first_ = nullptr;
+
+    std::string_view family_;
+    Function function_;
+    const Registered* next_;
+};
+
+inline Function find(std::string_view family) { return Registered::find(family); }
+
+// The team that calls are run with. Only sums that start afresh with the rows of every thread depend on it.
+inline int team = 1;
 
 } // namespace reference

@@ -1,6 +1,5 @@
 // Scale maps the whole range of one integer type linearly onto that of another; the float side takes the range
 // vMin..vMax.
-#include "families.h"
 #include "image.h"
 
 namespace reference {
@@ -77,8 +76,6 @@ private:
     bool inFloat = false;
 };
 
-} // namespace
-
 int32_t scale(const Member& member, const Arg* args) {
     const ElementScale scaleElement(member, args);
     if (scaleElement.isEmptyRange()) return scaleRangeError;
@@ -94,5 +91,9 @@ int32_t scale(const Member& member, const Arg* args) {
     });
     return ok;
 }
+
+const Registered scaleFamily("Scale", scale);
+
+} // namespace
 
 } // namespace reference

@@ -1,7 +1,8 @@
-#include "families.h"
 #include "image.h"
 
 namespace reference {
+
+namespace {
 
 int32_t set(const Member& member, const Arg* args) {
     const Arg& value = args[0];
@@ -24,5 +25,9 @@ int32_t set(const Member& member, const Arg* args) {
     });
     return ok;
 }
+
+const Registered setFamily("Set", set);
+
+} // namespace
 
 } // namespace reference

@@ -2,7 +2,6 @@
 //
 // Left and unsigned right shifts by the width or more give 0; signed right shifts fill with the sign, however far.
 // Steps are refused also where a count of 0 makes the call a copy.
-#include "families.h"
 #include "image.h"
 #include "pointwise.h"
 
@@ -31,13 +30,16 @@ int32_t shiftBy(const Member& member, const Arg* args, Shift shift) {
     return ok;
 }
 
-} // namespace
-
 int32_t lShiftC(const Member& member, const Arg* args) { return shiftBy(member, args, shiftLeft); }
 
 int32_t rShiftC(const Member& member, const Arg* args) {
     return shiftBy(member, args,
                    [](const Element&, int64_t value, uint32_t count) { return shiftRight(value, count); });
 }
+
+const Registered lShiftCFamily("LShiftC", lShiftC);
+const Registered rShiftCFamily("RShiftC", rShiftC);
+
+} // namespace
 
 } // namespace reference

@@ -2,7 +2,6 @@
 // after that the difference of the one that enters and the one that leaves is formed in integers.
 #include <vector>
 
-#include "families.h"
 #include "image.h"
 
 namespace reference {
@@ -72,8 +71,6 @@ float movedDown(float sum, const Images& images, const Window& window, int64_t x
     return sum + static_cast<float>(difference);
 }
 
-} // namespace
-
 int32_t sumWindowRow(const Member& member, const Arg* args) {
     if (const int32_t status = check(member, args); status != ok) return status;
     const Arg& roi = args[4];
@@ -107,5 +104,10 @@ int32_t sumWindowColumn(const Member& member, const Arg* args) {
     });
     return ok;
 }
+
+const Registered sumWindowRowFamily("SumWindowRow", sumWindowRow);
+const Registered sumWindowColumnFamily("SumWindowColumn", sumWindowColumn);
+
+} // namespace
 
 } // namespace reference

@@ -5,7 +5,6 @@
 #include <cstring>
 #include <limits>
 
-#include "families.h"
 #include "image.h"
 
 namespace reference {
@@ -32,8 +31,6 @@ int32_t checkRegion(const Member& member, const Arg& roi, const Arg& srcStep, co
     if ((member.layout == "C3" || member.layout == "AC4") && badStep) return stepError;
     return ok;
 }
-
-} // namespace
 
 int32_t swapChannels(const Member& member, const Arg* args) {
     const Arg* dstArgs = member.mode == "IR" ? args : args + 2;
@@ -65,5 +62,9 @@ int32_t swapChannels(const Member& member, const Arg* args) {
     });
     return ok;
 }
+
+const Registered swapChannelsFamily("SwapChannels", swapChannels);
+
+} // namespace
 
 } // namespace reference

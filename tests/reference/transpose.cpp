@@ -1,5 +1,4 @@
 // Transpose exchanges rows and columns: a region of width x height becomes one of height x width.
-#include "families.h"
 #include "image.h"
 
 namespace reference {
@@ -15,8 +14,6 @@ void transposeInPlace(const Image& image, const Arg& roi) {
         image.store(y, x, upper);
     });
 }
-
-} // namespace
 
 int32_t transpose(const Member& member, const Arg* args) {
     const bool inPlace = member.mode == "IR";
@@ -36,5 +33,9 @@ int32_t transpose(const Member& member, const Arg* args) {
     forEachPixel(roi, [&](int64_t x, int64_t y) { dst.store(y, x, src.load(x, y)); });
     return ok;
 }
+
+const Registered transposeFamily("Transpose", transpose);
+
+} // namespace
 
 } // namespace reference
