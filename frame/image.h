@@ -45,6 +45,8 @@ struct Image<T, anyElements, anyElements> {
     ptrdiff_t step;
     ptrdiff_t pixelBytes;
 
+    operator Image<const T, anyElements, anyElements>() const requires written { return {base, step, pixelBytes}; }
+
     T* at(ptrdiff_t x, ptrdiff_t y) const {
         using Byte = std::conditional_t<written, char, const char>;
         return reinterpret_cast<T*>(reinterpret_cast<Byte*>(base) + y * step + x * pixelBytes);

@@ -117,36 +117,49 @@ class PreparedConstants {
 
 public:
     const Op op;
-    const Prepared vectors[3];
+    const Prepared* vectors[3];
 
     PreparedConstants(const Op& operation, const WithConstants& operands)
-        : op(operation), vectors{prepare(LoadU(lanesOf(operands))), prepare(operands, operands.layout.secondPhase),
-                                 prepare(operands, operands.layout.endPhase)},
-          same_(operands.layout.elements == 1), ofShortRow_(vectors[0]) {}
+        : op(operation), same_(operands.layout.elements == 1) {
+        const Layout& l = operands.layout;
+        const L* constants = reinterpret_cast<const L*>(operands.constants);
+        const auto at = [&](int slot, ptrdiff_t phase) { // phase 0 is that of the first vector
+            return phase ? prepare(slot, LoadU(constants + phase / static_cast<ptrdiff_t>(sizeof(L)))) : vectors[0];
+        };
+        vectors[0] = fill(slots_[0], LoadU(constants));
+        vectors[1] = at(1, l.secondPhase);
+        vectors[2] = at(2, l.endPhase);
+    }
 
     // Of a row of n lanes, fewer than a vector. Such rows follow one another.
     const Prepared& ofShortRow(const L* constants, ptrdiff_t n) const {
-        if (!same_ && (n != shortLength_ || constants != shortConstants_)) {
-            ofShortRow_ = prepare(LoadEnds(constants, n));
+        if (same_) return *vectors[0];
+        if (n != shortLength_ || constants != shortConstants_) {
+            prepare(3, LoadEnds(constants, n));
             shortLength_ = n;
             shortConstants_ = constants;
         }
-        return ofShortRow_;
+        return slots_[3].prepared;
     }
 
 private:
+    union Slot { // empty at first
+        char none;
+        Prepared prepared;
+        Slot() : none(0) {}
+    };
+
     const bool same_; // in all lanes
-    mutable Prepared ofShortRow_;
+    mutable Slot slots_[4];
     mutable ptrdiff_t shortLength_ = 0;
     mutable const L* shortConstants_ = nullptr;
 
-    static const L* lanesOf(const WithConstants& operands) { return reinterpret_cast<const L*>(operands.constants); }
-
-    [[gnu::noinline]] Prepared prepare(Vec<L> constants) const { return op.prepare(constants); }
-    // Phase 0 is that of the first vector.
-    Prepared prepare(const WithConstants& operands, ptrdiff_t phase) const {
-        if (phase == 0) return vectors[0];
-        return prepare(LoadU(lanesOf(operands) + phase / static_cast<ptrdiff_t>(sizeof(L))));
+    PXL_INLINE const Prepared* fill(Slot& slot, Vec<L> constants) const {
+        slot.prepared = op.prepare(constants);
+        return &slot.prepared;
+    }
+    [[gnu::noinline]] const Prepared* prepare(int slot, Vec<L> constants) const {
+        return fill(slots_[slot], constants);
     }
 };
 
@@ -164,12 +177,12 @@ struct ConstantResults {
         : a(static_cast<const L*>(from)), b(static_cast<const L*>(with)),
           constants(*static_cast<const PreparedConstants<L, Op>*>(plan.op)), op(constants.op) {}
 
-    PXL_INLINE Vec<L> of(ptrdiff_t x, ptrdiff_t v) const { return op(LoadU(a + x), constants.vectors[v]); }
+    PXL_INLINE Vec<L> of(ptrdiff_t x, ptrdiff_t v) const { return op(LoadU(a + x), *constants.vectors[v]); }
     PXL_INLINE Vec<L> at(ptrdiff_t x) const { return of(x, vector); }
     PXL_INLINE void next() { vector = vector < 2 ? vector + 1 : 0; }
     PXL_INLINE Vec<L> inPixels(ptrdiff_t x, ptrdiff_t o, Mask<L>) const { return of(x, o / lanes<L>); }
     PXL_INLINE Vec<L> atEnd(const RowEnd<L>& end) const {
-        return op(end.load(a), end.whole ? constants.vectors[2] : constants.ofShortRow(b, end.n));
+        return op(end.load(a), end.whole ? *constants.vectors[2] : constants.ofShortRow(b, end.n));
     }
     PXL_INLINE void finish() const {}
 };
@@ -181,8 +194,8 @@ struct ShortConstantResults : ConstantResults<L, Op> {
     PreparedBy<Op, L> first, second, third;
 
     PXL_INLINE ShortConstantResults(const void* from, const void* with, const RowPlan& plan)
-        : ConstantResults<L, Op>(from, with, plan), first(this->constants.vectors[0]),
-          second(this->constants.vectors[1]), third(this->constants.vectors[2]) {}
+        : ConstantResults<L, Op>(from, with, plan), first(*this->constants.vectors[0]),
+          second(*this->constants.vectors[1]), third(*this->constants.vectors[2]) {}
 
     PXL_INLINE Vec<L> at(ptrdiff_t x, ptrdiff_t o = 0) const {
         return this->op(LoadU(this->a + x), o == 0 ? first : o == lanes<L> ? second : third);
