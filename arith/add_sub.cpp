@@ -16,29 +16,29 @@ PxlStatus checkPair(Image<const T, Elements, Channels> src1, Image<const T, Elem
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus Add(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
-              Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
+PXL_INLINE PxlStatus Add(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                         Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
     if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
     return add<LaneOf<T>>(pointwise::TwoSources(src1, src2, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus Sub(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
-              Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
+PXL_INLINE PxlStatus Sub(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                         Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
     if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
     return subtract<LaneOf<T>>(pointwise::TwoSources(src2, src1, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus AddFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
-                   Image<T, Elements, Channels> dst, ImageSize roi) {
+PXL_INLINE PxlStatus AddFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                              Image<T, Elements, Channels> dst, ImageSize roi) {
     if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
     return pointwise::run<float>(pointwise::TwoSources(src1, src2, dst, roi), FloatSum{});
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus SubFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
-                   Image<T, Elements, Channels> dst, ImageSize roi) {
+PXL_INLINE PxlStatus SubFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                              Image<T, Elements, Channels> dst, ImageSize roi) {
     if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
     return pointwise::run<float>(pointwise::TwoSources(src2, src1, dst, roi), FloatDifference{});
 }

@@ -14,29 +14,29 @@ PxlStatus checkConstants(Image<const T, Elements, Channels> src, Values<T, Chann
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus AddC(Image<const T, Elements, Channels> src, Values<T, Channels> values, Image<T, Elements, Channels> dst,
-               ImageSize roi, int scaleFactor) {
+PXL_INLINE PxlStatus AddC(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                          Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
     if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
     return add<LaneOf<T>>(pointwise::WithConstants(src, values, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus SubC(Image<const T, Elements, Channels> src, Values<T, Channels> values, Image<T, Elements, Channels> dst,
-               ImageSize roi, int scaleFactor) {
+PXL_INLINE PxlStatus SubC(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                          Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
     if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
     return subtract<LaneOf<T>>(pointwise::WithConstants(src, values, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus AddCFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
-                    Image<T, Elements, Channels> dst, ImageSize roi) {
+PXL_INLINE PxlStatus AddCFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                               Image<T, Elements, Channels> dst, ImageSize roi) {
     if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
     return pointwise::run<float>(pointwise::WithConstants(src, values, dst, roi), FloatSum{});
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus SubCFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
-                    Image<T, Elements, Channels> dst, ImageSize roi) {
+PXL_INLINE PxlStatus SubCFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                               Image<T, Elements, Channels> dst, ImageSize roi) {
     if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
     return pointwise::run<float>(pointwise::WithConstants(src, values, dst, roi), FloatDifference{});
 }

@@ -36,15 +36,15 @@ PxlStatus checkPair(Image<const T, Elements, Channels> src1, Image<const T, Elem
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus Div(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
-              Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
+PXL_INLINE PxlStatus Div(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                         Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
     if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
     return divide<T>(pointwise::TwoSources(src2, src1, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
-                   Image<T, Elements, Channels> dst, ImageSize roi) {
+PXL_INLINE PxlStatus DivFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                              Image<T, Elements, Channels> dst, ImageSize roi) {
     if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
     return pointwise::run<float>(pointwise::TwoSources(src2, src1, dst, roi), FloatQuotient{});
 }

@@ -33,15 +33,15 @@ PxlStatus checkConstants(Image<const T, Elements, Channels> src, Values<T, Chann
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivC(Image<const T, Elements, Channels> src, Values<T, Channels> values, Image<T, Elements, Channels> dst,
-               ImageSize roi, int scaleFactor) {
+PXL_INLINE PxlStatus DivC(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                          Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
     if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
     return divide<T>(pointwise::WithConstants(src, values, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivCFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
-                    Image<T, Elements, Channels> dst, ImageSize roi) {
+PXL_INLINE PxlStatus DivCFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                               Image<T, Elements, Channels> dst, ImageSize roi) {
     if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
     T reciprocals[Channels];
     for (int c = 0; c < Channels; ++c) reciprocals[c] = 1 / values[c];
@@ -50,16 +50,16 @@ PxlStatus DivCFloat(Image<const T, Elements, Channels> src, Values<T, Channels> 
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivCComplex(Image<const T, Elements, Channels> src, Values<T, Channels> values,
-                      Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
+PXL_INLINE PxlStatus DivCComplex(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                                 Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
     if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
     using L = LaneOf<T>;
     return pointwise::run<L>(pointwise::WithConstants(src, values, dst, roi), ComplexQuotient<L>(scaleFactor));
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivCComplexFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
-                           Image<T, Elements, Channels> dst, ImageSize roi) {
+PXL_INLINE PxlStatus DivCComplexFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                                      Image<T, Elements, Channels> dst, ImageSize roi) {
     if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
     return pointwise::run<float>(pointwise::WithConstants(src, values, dst, roi), ComplexFloatQuotient{});
 }

@@ -12,16 +12,16 @@ PxlStatus checkPair(Image<const T, Elements, Channels> src1, Image<const T, Elem
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivComplex(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
-                     Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
+PXL_INLINE PxlStatus DivComplex(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                                Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
     if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
     using L = LaneOf<T>;
     return pointwise::run<L>(pointwise::TwoSources(src2, src1, dst, roi), ComplexQuotient<L>(scaleFactor));
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivComplexFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
-                          Image<T, Elements, Channels> dst, ImageSize roi) {
+PXL_INLINE PxlStatus DivComplexFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                                     Image<T, Elements, Channels> dst, ImageSize roi) {
     if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
     return pointwise::run<float>(pointwise::TwoSources(src2, src1, dst, roi), ComplexFloatQuotient{});
 }

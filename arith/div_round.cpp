@@ -70,8 +70,8 @@ PxlStatus divideRounded(const pointwise::TwoSources& operands, int scaleFactor) 
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus DivRound(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
-                   Image<T, Elements, Channels> dst, ImageSize roi, PxlRoundMode mode, int scaleFactor) {
+PXL_INLINE PxlStatus DivRound(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                              Image<T, Elements, Channels> dst, ImageSize roi, PxlRoundMode mode, int scaleFactor) {
     if (const PxlStatus status = check(null(src1, src2, dst), size(roi), steps(src1, src2, dst), roundMode(mode)))
         return status;
     static constexpr decltype(&divideRounded<T, 0>) divide[] = {

@@ -9,6 +9,7 @@
 namespace pxl::PXL_TARGET::arith {
 
 struct Quotient {
+    static constexpr bool isLong = true;
     static constexpr PxlStatus warning = PXL_W_DIV_BY_ZERO;
 
     template <class Divisor>

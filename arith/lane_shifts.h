@@ -43,7 +43,18 @@ private:
     }
 };
 
-// A count for every lane, zeros coming in. Lanes of 1 and 2 bytes shift by multiplying with powers of two.
+// 2^n modulo 2^16, for lanes n of 0..16.
+PXL_INLINE Vec<uint16_t> powersOf2(Vec<uint16_t> n) {
+    const Vec<uint16_t> one = Set<uint16_t>(1);
+    const auto factor = [&](Vec<uint16_t> bit, uint16_t power) __attribute__((always_inline)) {
+        return one + (bit & one) * Set<uint16_t>(static_cast<uint16_t>(power - 1));
+    };
+    const Vec<uint16_t> lower = factor(n, 2) * factor(ShiftRight<1>(n), 4);
+    const Vec<uint16_t> upper = factor(ShiftRight<2>(n), 16) * factor(ShiftRight<3>(n), 256);
+    return lower * upper * (one - ShiftRight<4>(n));
+}
+
+// A count for every lane, at most its width, zeros coming in. Lanes of 1 and 2 bytes shift by multiplying with powers of two.
 template <size_t Bytes, bool Left>
 struct UnsignedLaneShift;
 
@@ -51,14 +62,10 @@ template <bool Left>
 struct UnsignedLaneShift<1, Left> {
     Vec<uint16_t> even, odd; // factors of the lower and the upper byte of every pair
 
-    PXL_INLINE explicit UnsignedLaneShift(const uint32_t* counts) {
-        alignas(vecBytes) uint16_t factors[2][lanes<uint16_t>];
-        for (int i = 0; i < lanes<uint8_t>; ++i) {
-            const uint32_t n = counts[i];
-            factors[i % 2][i / 2] = static_cast<uint16_t>(n > 7 ? 0 : Left ? 1 << n : 256 >> n);
-        }
-        even = LoadU(factors[0]);
-        odd = LoadU(factors[1]);
+    PXL_INLINE explicit UnsignedLaneShift(Vec<uint8_t> counts) {
+        const Vec<uint16_t> n = BitCast<uint16_t>(Left ? counts : Set<uint8_t>(8) - counts);
+        even = powersOf2(n & Set<uint16_t>(0xFF));
+        odd = powersOf2(ShiftRight<8>(n));
     }
     PXL_INLINE Vec<uint8_t> operator()(Vec<uint8_t> v) const {
         const Vec<uint16_t> pairs = BitCast<uint16_t>(v), low = Set<uint16_t>(0xFF);
@@ -70,18 +77,10 @@ struct UnsignedLaneShift<1, Left> {
 template <bool Left>
 struct UnsignedLaneShift<2, Left> {
     Vec<uint16_t> factor;
-    Vec<uint16_t> unshifted; // right: lanes of count 0, whose factor of 2^16 does not fit
+    Mask<uint16_t> unshifted; // right: lanes of count 0, whose factor of 2^16 does not fit
 
-    PXL_INLINE explicit UnsignedLaneShift(const uint32_t* counts) {
-        alignas(vecBytes) uint16_t factors[lanes<uint16_t>], zeros[lanes<uint16_t>];
-        for (int i = 0; i < lanes<uint16_t>; ++i) {
-            const uint32_t n = counts[i];
-            factors[i] = static_cast<uint16_t>(n > 15 ? 0 : Left ? 1 << n : 0x10000 >> n);
-            zeros[i] = n == 0 ? 0xFFFF : 0;
-        }
-        factor = LoadU(factors);
-        unshifted = LoadU(zeros);
-    }
+    PXL_INLINE explicit UnsignedLaneShift(Vec<uint16_t> counts)
+        : factor(powersOf2(Left ? counts : Set<uint16_t>(16) - counts)), unshifted(counts == Zero<uint16_t>()) {}
     PXL_INLINE Vec<uint16_t> operator()(Vec<uint16_t> v) const {
         if constexpr (Left) return v * factor;
         return MulHigh(v, factor) | (v & unshifted);
@@ -92,27 +91,23 @@ template <bool Left>
 struct UnsignedLaneShift<4, Left> {
     LaneCounts counts;
 
-    PXL_INLINE explicit UnsignedLaneShift(const uint32_t* n) : counts(n) {}
+    PXL_INLINE explicit UnsignedLaneShift(Vec<uint32_t> n) : counts(n) {}
     PXL_INLINE Vec<uint32_t> operator()(Vec<uint32_t> v) const { return Left ? v << counts : v >> counts; }
 };
 
 template <class T, bool Left>
 struct LaneShift {
     using U = UnsignedLane<T>;
-    static constexpr bool arithmetic = !Left && std::is_signed_v<T>;
+    static constexpr U signBit = U{1} << (bitsOf<T> - 1);
     UnsignedLaneShift<sizeof(T), Left> shift;
     Vec<U> sign; // where the sign bit, biased away before an arithmetic shift, has gone
 
-    // counts: one per lane
-    PXL_INLINE explicit LaneShift(const uint32_t* counts) : shift(counts) {
-        alignas(vecBytes) U bits[lanes<U>];
-        for (int i = 0; i < lanes<U>; ++i) bits[i] = static_cast<U>(U{1} << (bitsOf<T> - 1) >> (counts[i] & 31));
-        sign = LoadU(bits);
-    }
+    PXL_INLINE explicit LaneShift(Vec<U> counts) : shift(counts), sign(shift(Set<U>(signBit))) {}
+
     PXL_INLINE Vec<T> operator()(Vec<T> v) const {
         const Vec<U> u = BitCast<U>(v);
-        if constexpr (arithmetic)
-            return BitCast<T>(shift(u ^ Set<U>(U{1} << (bitsOf<T> - 1))) - sign);
+        if constexpr (!Left && std::is_signed_v<T>)
+            return BitCast<T>(shift(u ^ Set<U>(signBit)) - sign);
         else
             return BitCast<T>(shift(u));
     }

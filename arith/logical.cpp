@@ -32,22 +32,22 @@ struct Complement {
 };
 
 template <class Op, class T, int Elements, int Channels>
-PxlStatus Logical(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
-                  Image<T, Elements, Channels> dst, ImageSize roi) {
+PXL_INLINE PxlStatus Logical(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                             Image<T, Elements, Channels> dst, ImageSize roi) {
     if (const PxlStatus status = check(widenedSize(dst, roi), null(src1, src2, dst), steps(src1, src2, dst), size(roi)))
         return status;
     return pointwise::run<T>(pointwise::TwoSources(src1, src2, dst, roi), Op{});
 }
 
 template <class Op, class T, int Elements, int Channels>
-PxlStatus LogicalC(Image<const T, Elements, Channels> src, Values<T, Channels> values, Image<T, Elements, Channels> dst,
-                   ImageSize roi) {
+PXL_INLINE PxlStatus LogicalC(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                              Image<T, Elements, Channels> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, values, dst), steps(src, dst), size(roi))) return status;
     return pointwise::run<T>(pointwise::WithConstants(src, values, dst, roi), Op{});
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus Not(Image<const T, Elements, Channels> src, Image<T, Elements, Channels> dst, ImageSize roi) {
+PXL_INLINE PxlStatus Not(Image<const T, Elements, Channels> src, Image<T, Elements, Channels> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, dst), steps(src, dst), size(roi))) return status;
     return pointwise::run<T>(pointwise::OneSource(src, dst, roi), Complement{});
 }

@@ -12,15 +12,15 @@ PxlStatus checkPair(Image<const T, Elements, Channels> src1, Image<const T, Elem
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus Mul(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
-              Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
+PXL_INLINE PxlStatus Mul(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                         Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
     if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
     return multiply<T>(pointwise::TwoSources(src1, src2, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus MulFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
-                   Image<T, Elements, Channels> dst, ImageSize roi) {
+PXL_INLINE PxlStatus MulFloat(Image<const T, Elements, Channels> src1, Image<const T, Elements, Channels> src2,
+                              Image<T, Elements, Channels> dst, ImageSize roi) {
     if (const PxlStatus status = checkPair(src1, src2, dst, roi)) return status;
     return pointwise::run<float>(pointwise::TwoSources(src1, src2, dst, roi), FloatProduct{});
 }

@@ -14,29 +14,29 @@ PxlStatus checkConstants(Image<const T, Elements, Channels> src, Values<T, Chann
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus MulC(Image<const T, Elements, Channels> src, Values<T, Channels> values, Image<T, Elements, Channels> dst,
-               ImageSize roi, int scaleFactor) {
+PXL_INLINE PxlStatus MulC(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                          Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
     if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
     return multiply<T>(pointwise::WithConstants(src, values, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus MulCFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
-                    Image<T, Elements, Channels> dst, ImageSize roi) {
+PXL_INLINE PxlStatus MulCFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                               Image<T, Elements, Channels> dst, ImageSize roi) {
     if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
     return pointwise::run<float>(pointwise::WithConstants(src, values, dst, roi), FloatProduct{});
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus MulCComplex(Image<const T, Elements, Channels> src, Values<T, Channels> values,
-                      Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
+PXL_INLINE PxlStatus MulCComplex(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                                 Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
     if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
     return multiplyComplex<LaneOf<T>>(pointwise::WithConstants(src, values, dst, roi), scaleFactor);
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus MulCComplexFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
-                           Image<T, Elements, Channels> dst, ImageSize roi) {
+PXL_INLINE PxlStatus MulCComplexFloat(Image<const T, Elements, Channels> src, Values<T, Channels> values,
+                                      Image<T, Elements, Channels> dst, ImageSize roi) {
     if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
     return pointwise::run<float>(pointwise::WithConstants(src, values, dst, roi), ComplexFloatProduct{});
 }

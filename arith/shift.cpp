@@ -26,12 +26,8 @@ struct ShiftSame {
 // A count for every channel, as a constant of the elements' type that is at most their width.
 template <class T, bool Left>
 struct ShiftEach {
-    LaneShift<T, Left> prepare(Vec<T> counts) const {
-        alignas(vecBytes) T few[lanes<T>];
-        uint32_t all[lanes<T>];
-        StoreU(counts, few);
-        for (int i = 0; i < lanes<T>; ++i) all[i] = static_cast<uint32_t>(few[i]);
-        return LaneShift<T, Left>(all);
+    PXL_INLINE LaneShift<T, Left> prepare(Vec<T> counts) const {
+        return LaneShift<T, Left>(BitCast<UnsignedLane<T>>(counts));
     }
     PXL_INLINE Vec<T> operator()(Vec<T> v, const LaneShift<T, Left>& shift) const { return shift(v); }
 

@@ -1,6 +1,9 @@
 // What the processor can do at best for a linear filter: a multiplication and an addition per tap, from registers, with no
 // fused operation. Items are taps of one element; those of bound_clock are cycles.
+#include <iterator>
+
 #include "pair.h"
+#include "target_list.h"
 
 using namespace pxlbench;
 
@@ -36,7 +39,7 @@ void addVectorBounds() {
 
 const Rows rows([] {
     addBound("bound_clock/pxl/registers", 1, [sum = uint64_t{0}]() mutable { asm volatile("add $1, %0" : "+r"(sum)); });
-    if (__builtin_cpu_supports("avx2")) addVectorBounds();
+    if (std::size(pxl::knownTargets) > 1 && pxl::knownTargets[1].isOffered()) addVectorBounds(); // vectors of 32 bytes
 });
 
 } // namespace

@@ -66,7 +66,7 @@ PXL_INLINE void storeRows(Block v, char* d, ptrdiff_t step) {
 template <class T, class Lane>
 PXL_INLINE void StoreSquare(Vec<Lane> (&column)[lanes<Lane>], T* dst, ptrdiff_t step,
                             [[maybe_unused]] Vec<Lane> flipped) {
-    constexpr int side = lanes<Lane>, joined = sizeof(Lane) / sizeof(T), units = side / joined;
+    constexpr int side = lanes<Lane>, joined = lanes<T> / lanes<Lane>, units = side / joined;
     char* d = reinterpret_cast<char*>(dst);
     if constexpr (joined == 1) {
         TransposeSquare(column);

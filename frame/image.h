@@ -25,12 +25,17 @@ struct Image {
     T* base;
     ptrdiff_t step; // bytes from row to row
 
+    template <class U>
+    requires std::is_convertible_v<T*, U*>
+    operator Image<U, anyElements, anyElements>() const { return {base, step, pixelBytes}; }
+
     T* at(ptrdiff_t x, ptrdiff_t y) const {
         using Byte = std::conditional_t<written, char, const char>;
         return reinterpret_cast<T*>(reinterpret_cast<Byte*>(base) + y * step + x * pixelBytes);
     }
 };
 
+// Without constructors, for which GCC would keep walked images in memory.
 template <class T>
 struct Image<T, anyElements, anyElements> {
     using Element = std::remove_const_t<T>;
@@ -40,10 +45,7 @@ struct Image<T, anyElements, anyElements> {
     ptrdiff_t step;
     ptrdiff_t pixelBytes;
 
-    Image(T* p, ptrdiff_t rowStep, ptrdiff_t bytesOfPixel) : base(p), step(rowStep), pixelBytes(bytesOfPixel) {}
-    template <class U, int Elements, int Channels>
-    requires std::is_convertible_v<U*, T*> Image(const Image<U, Elements, Channels>& image)
-        : Image(image.base, image.step, image.pixelBytes) {}
+    operator Image<const T, anyElements, anyElements>() const requires written { return {base, step, pixelBytes}; }
 
     T* at(ptrdiff_t x, ptrdiff_t y) const {
         using Byte = std::conditional_t<written, char, const char>;

@@ -77,7 +77,8 @@ template <class Kernel, class... I>
 template <class Kernel, class... I>
 inline void walkRows(ptrdiff_t width, ptrdiff_t height, Kernel&& kernel, I... o) {
     if (anyConflict(width, height, o...)) return walkOverlapping(width, height, kernel, o...);
-    if ((... && (o.step == width * o.pixelBytes))) {
+    const bool contiguous = (... && (o.step == width * o.pixelBytes));
+    if (contiguous) {
         width *= height;
         height = 1;
     }

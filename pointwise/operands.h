@@ -37,19 +37,23 @@ inline constexpr Layout layoutOf{Elements,
                                  vecBytes % (Elements * sizeof(T)) == 0 ? 0 : vecBytes,
                                  endPhaseOf<T, Elements, Channels>()};
 
-// dst = op(a), op(a, b), or op(a, constants).
+// dst = op(a), op(a, b), or op(a, constants). Steps are kept apart from addresses, as what they were in the call: the walk
+// would copy pairs of them as vectors, which wait for the stores of both.
 struct Operands {
     const Layout& layout;
     ImageSize roi;
-    Image<const uint8_t> a, b;
-    Image<uint8_t> dst;
+    const uint8_t *a, *b;
+    uint8_t* dst;
     const uint8_t* constants; // the bytes of a ConstantRow, or null
+    int aStep, bStep, dstStep;
 
+protected:
     template <class T, int Elements, int Channels>
-    Operands(Image<const T, Elements, Channels> srcA, Image<const uint8_t> srcB, Image<T, Elements, Channels> to,
-             ImageSize size, const uint8_t* row)
-        : layout(layoutOf<T, Elements, Channels>), roi(size), a(elementsOf(bytesOf(srcA))), b(srcB),
-          dst(elementsOf(bytesOf(to))), constants(row) {}
+    Operands(Image<const T, Elements, Channels> srcA, Image<const T, Elements, Channels> srcB,
+             Image<T, Elements, Channels> to, ImageSize size, const uint8_t* row)
+        : layout(layoutOf<T, Elements, Channels>), roi(size), a(bytesOf(srcA).base), b(bytesOf(srcB).base),
+          dst(bytesOf(to).base), constants(row), aStep(static_cast<int>(srcA.step)), bStep(static_cast<int>(srcB.step)),
+          dstStep(static_cast<int>(to.step)) {}
 };
 
 struct OneSource : Operands {
@@ -62,7 +66,7 @@ struct TwoSources : Operands {
     template <class T, int Elements, int Channels>
     TwoSources(Image<const T, Elements, Channels> srcA, Image<const T, Elements, Channels> srcB,
                Image<T, Elements, Channels> to, ImageSize size)
-        : Operands(srcA, elementsOf(bytesOf(srcB)), to, size, nullptr) {}
+        : Operands(srcA, srcB, to, size, nullptr) {}
 };
 
 // A row of pixels that all hold the constants, whole vectors of them. Rows of channels alike read three vectors over and

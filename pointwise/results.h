@@ -1,4 +1,4 @@
-// The three ways to the results of a row. An operation is a callable object over vectors with whatever it needs set up once per
+// The ways to the results of a row. An operation is a callable object over vectors with whatever it needs set up once per
 // call:
 //     Vec<L> operator()(Vec<L> a) const;              one source
 //     Vec<L> operator()(Vec<L> a, Vec<L> b) const;    two sources, or a source and constants
@@ -8,6 +8,8 @@
 // The latter may also give a warning, if there is one among the b of two sources:
 //     static constexpr PxlStatus warning;
 //     static Vec<U> warned(const Prepared& b);        bits where there is
+// An operation of so many instructions that unrolled loops would only be larger says so:
+//     static constexpr bool isLong = true;
 #pragma once
 
 #include <utility>
@@ -22,6 +24,10 @@ template <class Op>
 inline constexpr bool warns = requires {
     Op::warning;
 };
+template <class Op>
+inline constexpr bool isLong = requires {
+    Op::isLong;
+};
 
 template <class Op, class L>
 concept Preparing = requires(const Op& op, Vec<L> b) {
@@ -29,43 +35,6 @@ concept Preparing = requires(const Op& op, Vec<L> b) {
 };
 template <class Op, class L>
 using PreparedBy = decltype(std::declval<const Op&>().prepare(Vec<L>{}));
-
-// op(a) or op(a, b), b an image or a ConstantRow.
-template <class L, class Op>
-struct PlainResults {
-    using Lane = L;
-    static constexpr bool isShort = true;
-    const L *a, *b;
-    ptrdiff_t within; // of constants in AC4 rows, which repeat after two vectors
-    Op op;
-
-    PXL_INLINE PlainResults(const void* from, const void* with, const RowPlan& plan)
-        : a(static_cast<const L*>(from)), b(static_cast<const L*>(with)), within(plan.still ? lanes<L> : -1),
-          op(*static_cast<const Op*>(plan.op)) {}
-
-    PXL_INLINE Vec<L> at(ptrdiff_t x, ptrdiff_t o = 0) const {
-        if constexpr (isUnary<Op, L>)
-            return op(LoadU(a + x));
-        else
-            return op(LoadU(a + x), LoadU(b + o));
-    }
-    PXL_INLINE void next() { b += lanes<L>; }
-    PXL_INLINE Vec<L> inPixels(ptrdiff_t x, Mask<L>) const { return at(x, x & within); }
-    PXL_INLINE Vec<L> atEnd(const RowEnd<L>& end) const {
-        if constexpr (isUnary<Op, L>)
-            return op(end.load(a));
-        else
-            return op(end.load(a), end.loadBeside(b));
-    }
-    PXL_INLINE void finish() const {}
-};
-
-// op(a, op.prepare(b)) of two images. Operations that prepare are long: they gain nothing from unrolled loops.
-template <class Op>
-struct Warning {
-    Op op;
-    bool* given;
-};
 
 // All ones, to tell what LoadEnds fills in.
 struct AllBytes {
@@ -76,37 +45,63 @@ struct AllBytes {
 };
 inline constexpr AllBytes allBytes;
 
+// Of a, or of a and a row b: an image or a ConstantRow.
 template <class L, class Op>
-struct PreparedResults {
+struct Results {
     using Lane = L;
-    static constexpr bool isShort = false;
+    static constexpr bool isConstant = false, isUnrolled = !isLong<Op>, isStreamed = isUnrolled;
     const L *a, *b;
     Op op;
     bool* given;
     Mask<L> warned = Zero<MaskLane<L>>();
 
-    PXL_INLINE PreparedResults(const void* from, const void* with, const RowPlan& plan)
-        : a(static_cast<const L*>(from)), b(static_cast<const L*>(with)),
-          op(static_cast<const Warning<Op>*>(plan.op)->op), given(static_cast<const Warning<Op>*>(plan.op)->given) {}
+    PXL_INLINE Results(const void* from, const void* with, const RowPlan& plan)
+        : a(static_cast<const L*>(from)), b(static_cast<const L*>(with)), op(*static_cast<const Op*>(plan.op)),
+          given(plan.given) {}
 
-    PXL_INLINE Vec<L> resultOf(Vec<L> as, Vec<L> bs) {
-        const auto prepared = op.prepare(bs);
-        if constexpr (warns<Op>) warned = warned | Op::warned(prepared);
-        return op(as, prepared);
+    PXL_INLINE Vec<L> of(Vec<L> as, Vec<L> bs) {
+        if constexpr (Preparing<Op, L>) {
+            const auto prepared = op.prepare(bs);
+            if constexpr (warns<Op>) warned = warned | Op::warned(prepared);
+            return op(as, prepared);
+        } else {
+            return op(as, bs);
+        }
     }
     // Lanes that do not count are made 1, which nothing warns of.
-    PXL_INLINE static Vec<L> ignore(Mask<L> lanesToIgnore, Vec<L> bs) {
-        return bs | IfThenElseZero(lanesToIgnore, Set<L>(1));
+    PXL_INLINE static Vec<L> ignore(Mask<L> ignored, Vec<L> bs) {
+        if constexpr (warns<Op>) return bs | IfThenElseZero(ignored, Set<L>(1));
+        return bs;
     }
 
-    PXL_INLINE Vec<L> at(ptrdiff_t x) { return resultOf(LoadU(a + x), LoadU(b + x)); }
-    PXL_INLINE void next() const {}
-    PXL_INLINE Vec<L> inPixels(ptrdiff_t x, Mask<L> kept) { return resultOf(LoadU(a + x), ignore(kept, LoadU(b + x))); }
+    PXL_INLINE Vec<L> at(ptrdiff_t x, ptrdiff_t o = 0) {
+        const Vec<L> as = LoadU(a + x);
+        if constexpr (isUnary<Op, L>)
+            return op(as);
+        else
+            return of(as, LoadU(b + o));
+    }
+    PXL_INLINE void next() {
+        if constexpr (!isUnary<Op, L>) b += lanes<L>;
+    }
+    PXL_INLINE Vec<L> inPixels(ptrdiff_t x, ptrdiff_t o, Mask<L> kept) {
+        const Vec<L> as = LoadU(a + x);
+        if constexpr (isUnary<Op, L>)
+            return op(as);
+        else
+            return of(as, ignore(kept, LoadU(b + o)));
+    }
     PXL_INLINE Vec<L> atEnd(const RowEnd<L>& end) {
-        const Vec<L> bs = end.load(b);
-        Mask<L> ignored = end.plan.alpha ? end.kept() : Zero<MaskLane<L>>();
-        if (!end.whole) ignored = ignored | ~LoadEnds(reinterpret_cast<const MaskLane<L>*>(allBytes.bytes), end.n);
-        return resultOf(end.load(a), ignore(ignored, bs));
+        if constexpr (isUnary<Op, L>) {
+            return op(end.load(a));
+        } else if constexpr (warns<Op>) {
+            const Vec<L> bs = end.load(b);
+            Mask<L> ignored = end.plan.alpha ? end.kept() : Zero<MaskLane<L>>();
+            if (!end.whole) ignored = ignored | ~LoadEnds(reinterpret_cast<const MaskLane<L>*>(allBytes.bytes), end.n);
+            return of(end.load(a), ignore(ignored, bs));
+        } else {
+            return of(end.load(a), end.loadBeside(b));
+        }
     }
     PXL_INLINE void finish() const {
         if constexpr (warns<Op>)
@@ -122,43 +117,57 @@ class PreparedConstants {
 
 public:
     const Op op;
-    const Prepared vectors[3];
+    const Prepared* vectors[3];
 
     PreparedConstants(const Op& operation, const WithConstants& operands)
-        : op(operation), vectors{prepare(LoadU(lanesOf(operands))), prepare(operands, operands.layout.secondPhase),
-                                 prepare(operands, operands.layout.endPhase)},
-          same_(operands.layout.elements == 1), ofShortRow_(vectors[0]) {}
+        : op(operation), same_(operands.layout.elements == 1) {
+        const Layout& l = operands.layout;
+        const L* constants = reinterpret_cast<const L*>(operands.constants);
+        const auto at = [&](int slot, ptrdiff_t phase) { // phase 0 is that of the first vector
+            return phase ? prepare(slot, LoadU(constants + phase / static_cast<ptrdiff_t>(sizeof(L)))) : vectors[0];
+        };
+        vectors[0] = fill(slots_[0], LoadU(constants));
+        vectors[1] = at(1, l.secondPhase);
+        vectors[2] = at(2, l.endPhase);
+    }
 
     // Of a row of n lanes, fewer than a vector. Such rows follow one another.
     const Prepared& ofShortRow(const L* constants, ptrdiff_t n) const {
-        if (!same_ && (n != shortLength_ || constants != shortConstants_)) {
-            ofShortRow_ = prepare(LoadEnds(constants, n));
+        if (same_) return *vectors[0];
+        if (n != shortLength_ || constants != shortConstants_) {
+            prepare(3, LoadEnds(constants, n));
             shortLength_ = n;
             shortConstants_ = constants;
         }
-        return ofShortRow_;
+        return slots_[3].prepared;
     }
 
 private:
+    union Slot { // empty at first
+        char none;
+        Prepared prepared;
+        Slot() : none(0) {}
+    };
+
     const bool same_; // in all lanes
-    mutable Prepared ofShortRow_;
+    mutable Slot slots_[4];
     mutable ptrdiff_t shortLength_ = 0;
     mutable const L* shortConstants_ = nullptr;
 
-    static const L* lanesOf(const WithConstants& operands) { return reinterpret_cast<const L*>(operands.constants); }
-
-    [[gnu::noinline]] Prepared prepare(Vec<L> constants) const { return op.prepare(constants); }
-    // Phase 0 is that of the first vector.
-    Prepared prepare(const WithConstants& operands, ptrdiff_t phase) const {
-        if (phase == 0) return vectors[0];
-        return prepare(LoadU(lanesOf(operands) + phase / static_cast<ptrdiff_t>(sizeof(L))));
+    PXL_INLINE const Prepared* fill(Slot& slot, Vec<L> constants) const {
+        slot.prepared = op.prepare(constants);
+        return &slot.prepared;
+    }
+    [[gnu::noinline]] const Prepared* prepare(int slot, Vec<L> constants) const {
+        return fill(slots_[slot], constants);
     }
 };
 
+// Of a and prepared constants.
 template <class L, class Op>
 struct ConstantResults {
     using Lane = L;
-    static constexpr bool isShort = false;
+    static constexpr bool isConstant = true, isUnrolled = false, isStreamed = false;
     const L *a, *b;
     const PreparedConstants<L, Op>& constants;
     Op op;
@@ -168,14 +177,34 @@ struct ConstantResults {
         : a(static_cast<const L*>(from)), b(static_cast<const L*>(with)),
           constants(*static_cast<const PreparedConstants<L, Op>*>(plan.op)), op(constants.op) {}
 
-    PXL_INLINE Vec<L> of(ptrdiff_t x, ptrdiff_t v) const { return op(LoadU(a + x), constants.vectors[v]); }
+    PXL_INLINE Vec<L> of(ptrdiff_t x, ptrdiff_t v) const { return op(LoadU(a + x), *constants.vectors[v]); }
     PXL_INLINE Vec<L> at(ptrdiff_t x) const { return of(x, vector); }
     PXL_INLINE void next() { vector = vector < 2 ? vector + 1 : 0; }
-    PXL_INLINE Vec<L> inPixels(ptrdiff_t x, Mask<L>) const { return of(x, x / lanes<L> % 2); }
+    PXL_INLINE Vec<L> inPixels(ptrdiff_t x, ptrdiff_t o, Mask<L>) const { return of(x, o / lanes<L>); }
     PXL_INLINE Vec<L> atEnd(const RowEnd<L>& end) const {
-        return op(end.load(a), end.whole ? constants.vectors[2] : constants.ofShortRow(b, end.n));
+        return op(end.load(a), end.whole ? *constants.vectors[2] : constants.ofShortRow(b, end.n));
     }
     PXL_INLINE void finish() const {}
+};
+
+// The same for short operations, with the constants in registers, if there are enough.
+template <class L, class Op>
+struct ShortConstantResults : ConstantResults<L, Op> {
+    static constexpr bool isUnrolled = true;
+    PreparedBy<Op, L> first, second, third;
+
+    PXL_INLINE ShortConstantResults(const void* from, const void* with, const RowPlan& plan)
+        : ConstantResults<L, Op>(from, with, plan), first(*this->constants.vectors[0]),
+          second(*this->constants.vectors[1]), third(*this->constants.vectors[2]) {}
+
+    PXL_INLINE Vec<L> at(ptrdiff_t x, ptrdiff_t o = 0) const {
+        return this->op(LoadU(this->a + x), o == 0 ? first : o == lanes<L> ? second : third);
+    }
+    PXL_INLINE void next() {
+        first = second;
+        second = third;
+    }
+    PXL_INLINE Vec<L> inPixels(ptrdiff_t x, ptrdiff_t o, Mask<L>) const { return at(x, o); }
 };
 
 } // namespace pxl::PXL_TARGET::pointwise

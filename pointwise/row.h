@@ -5,11 +5,12 @@
 //     Results(const void* a, const void* b, const RowPlan& plan)
 //     Vec<L> at(x)                     of the vector at lane x, and of b where it stands
 //     void next()                      b moves on by a vector
-//     Vec<L> inPixels(x, kept)         of a vector in an AC4 row, of which the lanes `kept` do not count
+//     Vec<L> inPixels(x, o, kept)      of a vector in an AC4 row, at lane x of a and o of b; the lanes `kept` do not count
+//     static constexpr bool isConstant whether b is always a ConstantRow
 //     Vec<L> atEnd(const RowEnd<L>&)   of the vector that ends the row
 //     void finish()                    called when the row is done
-//     static constexpr bool isShort    whether loops are unrolled and stores may pass by the caches; then
-//     Vec<L> at(x, o)                  is o lanes further on in b, and b the place where that stands
+//     static constexpr bool isUnrolled, isStreamed     whether stores may pass by the caches; for loops of either kind
+//     Vec<L> at(x, o)                  is o lanes further on in b, a member that they move
 #pragma once
 
 #include "frame/vec/partial.h"
@@ -20,6 +21,7 @@ namespace pxl::PXL_TARGET::pointwise {
 // What a row function gets beside its row.
 struct RowPlan {
     const void* op;
+    bool* given;          // set where the operation gives its warning
     bool still;           // b is a ConstantRow
     const uint8_t* alpha; // AC4, else null
     ptrdiff_t endPhase;   // the layout's
@@ -57,6 +59,29 @@ private:
     PXL_INLINE ptrdiff_t phase() const { return plan.endPhase / static_cast<ptrdiff_t>(sizeof(L)); }
 };
 
+// The vectors of an AC4 row that begin before `last`. Pixels may be two vectors long.
+template <class Results, class L>
+PXL_INLINE void pixelRow(ptrdiff_t last, Results& results, const RowPlan& plan, L* d) {
+    constexpr ptrdiff_t step = lanes<L>;
+    const auto alpha = reinterpret_cast<const MaskLane<L>*>(plan.alpha);
+    const bool still = Results::isConstant || plan.still;
+    const auto store = [&](ptrdiff_t x, ptrdiff_t inPixel, Mask<L> kept) __attribute__((always_inline)) {
+        const Vec<L> result = results.inPixels(x, still ? inPixel : x, kept);
+        StoreU(IfThenElse(kept, LoadU(d + x), result), d + x);
+    };
+    ptrdiff_t x = 0;
+    if constexpr (Results::isUnrolled) {
+        const Mask<L> first = LoadU(alpha), second = LoadU(alpha + step);
+        for (; x + step < last; x += 2 * step) {
+            store(x, 0, first);
+            store(x + step, step, second);
+        }
+        if (x < last) store(x, 0, first);
+    } else {
+        for (; x < last; x += step) store(x, x & step, LoadU(alpha + (x & step)));
+    }
+}
+
 // The beginning of a row whose stores pass by the caches, as many whole vectors as come before `last`; returns where it
 // stops and moves b along. The first vector, of which the next may overlap a part, is stored as it stands.
 template <class Results, class L>
@@ -92,14 +117,12 @@ void elementRow(ptrdiff_t n, const void* a, const void* b, void* to, const RowPl
     const ptrdiff_t last = n - step;
     ptrdiff_t x = 0;
     if (plan.alpha) {
-        for (; x < last; x += step) { // pixels may be two vectors long
-            const Mask<L> kept = LoadU(reinterpret_cast<const MaskLane<L>*>(plan.alpha) + (x & step));
-            const Vec<L> result = results.inPixels(x, kept);
-            StoreU(IfThenElse(kept, LoadU(d + x), result), d + x);
-        }
+        pixelRow(last, results, plan, d);
+        x = last;
     }
-    if constexpr (Results::isShort) {
+    if constexpr (Results::isStreamed)
         if (plan.streams(d)) x = streamRow(last, results, plan.still, d);
+    if constexpr (Results::isUnrolled) {
         const ptrdiff_t advance = plan.still ? 0 : run;
         for (; x + run <= last; x += run, results.b += advance) {
             // Computed where they stand, they keep loads and stores in ascending order, which the caches reward.

@@ -18,20 +18,21 @@ namespace pxl::PXL_TARGET::pointwise {
 inline size_t streamedElement(const Operands& o, int images) {
     const Layout& l = o.layout;
     const ptrdiff_t bytes = l.elements * l.elementBytes * images * o.roi.width * o.roi.height;
-    if (bytes < streamedBytes || l.alpha || o.dst.base == o.a.base || o.dst.base == o.b.base) return 0;
+    if (bytes < streamedBytes || l.alpha || o.dst == o.a || o.dst == o.b) return 0;
     return static_cast<size_t>(l.elementBytes);
 }
 
-template <class T>
-inline Image<T, anyElements> inPixels(const Image<T>& image, ptrdiff_t pixelBytes) {
-    return {image.base, image.step, pixelBytes};
-}
+// Operands of so many bytes that are walked at a time.
+using Source = Image<const uint8_t, anyElements>;
+using Destination = Image<uint8_t, anyElements>;
 
 // Walks rows of two sources. Channels alike are walked as elements, AC4 as pixels, which are done element by element where
 // the walker asks for single ones.
-[[gnu::noinline, gnu::flatten]] inline void walkTwoSources(const Operands& o, RowFunction row, const void* op) {
+[[gnu::noinline, gnu::flatten]] inline void walkTwoSources(const Operands& o, RowFunction row, const void* op,
+                                                           bool* given = nullptr) {
     const Layout& l = o.layout;
-    const RowPlan pixelPlan{op, false, l.alpha, l.endPhase, 0}, plain{op, false, nullptr, 0, streamedElement(o, 3)};
+    const RowPlan pixelPlan{op, given, false, l.alpha, l.endPhase, 0},
+        plain{op, given, false, nullptr, 0, streamedElement(o, 3)};
     const ptrdiff_t e = l.elementBytes, parts = l.parts;
     const auto elements = [=, &plain](ptrdiff_t n, const uint8_t* a, const uint8_t* b, uint8_t* d) {
         row(n * parts, a, b, d, plain);
@@ -42,8 +43,8 @@ inline Image<T, anyElements> inPixels(const Image<T>& image, ptrdiff_t pixelByte
     };
     const ptrdiff_t unit = l.alpha ? 4 : 1,
                     width = l.alpha ? o.roi.width : o.roi.width * static_cast<ptrdiff_t>(l.elements);
-    const auto a = inPixels(o.a, unit * e), b = inPixels(o.b, unit * e);
-    const auto d = inPixels(o.dst, unit * e);
+    const Source a{o.a, o.aStep, unit * e}, b{o.b, o.bStep, unit * e};
+    const Destination d{o.dst, o.dstStep, unit * e};
     if (l.alpha)
         walkRows(width, o.roi.height, pixels, a, b, d);
     else
@@ -56,23 +57,24 @@ inline Image<T, anyElements> inPixels(const Image<T>& image, ptrdiff_t pixelByte
     const Layout& l = o.layout;
     const ptrdiff_t e = l.elementBytes, pixel = l.elements * e;
     const ptrdiff_t unit = l.elements * l.parts, skipped = (l.elements - l.channels) * l.parts; // lanes
-    const RowPlan plan{op, true, l.alpha, l.endPhase, streamedElement(o, 2)}, alike{op, false, nullptr, 0, 0};
+    const RowPlan plan{op, nullptr, true, l.alpha, l.endPhase, streamedElement(o, 2)},
+        alike{op, nullptr, false, nullptr, 0, 0};
     const auto kernel = [=, &o, &l, &plan, &alike](ptrdiff_t n, const uint8_t* s, uint8_t* d) {
         const uint8_t* constants = o.constants;
         if (n > 1) return row(n * unit - skipped, s, constants, d, plan);
         for (ptrdiff_t at = 0; at < l.channels * e; at += e)
             row(l.parts, s + at, constants ? constants + at : nullptr, d + at, alike);
     };
-    walkRows(o.roi.width, o.roi.height, kernel, inPixels(o.a, pixel), inPixels(o.dst, pixel));
+    walkRows(o.roi.width, o.roi.height, kernel, Source{o.a, o.aStep, pixel}, Destination{o.dst, o.dstStep, pixel});
     finishStreamed(plan.streamed);
 }
 
 template <class L, class Op>
 inline PxlStatus run(const Operands& operands, const Op& op) {
     if (isUnary<Op, L> || operands.constants)
-        walkOneSource(operands, elementRow<PlainResults<L, Op>>, &op);
+        walkOneSource(operands, elementRow<Results<L, Op>>, &op);
     else
-        walkTwoSources(operands, elementRow<PlainResults<L, Op>>, &op);
+        walkTwoSources(operands, elementRow<Results<L, Op>>, &op);
     return PXL_OK;
 }
 
@@ -80,8 +82,7 @@ template <class L, class Op>
 requires Preparing<Op, L>
 [[gnu::noinline]] PxlStatus run(const TwoSources& operands, const Op& op) {
     bool given = false;
-    const Warning<Op> warning{op, &given};
-    walkTwoSources(operands, elementRow<PreparedResults<L, Op>>, &warning);
+    walkTwoSources(operands, elementRow<Results<L, Op>>, &op, &given);
     if constexpr (warns<Op>)
         if (given) return Op::warning;
     return PXL_OK;
@@ -91,7 +92,8 @@ template <class L, class Op>
 requires Preparing<Op, L>
 [[gnu::noinline]] PxlStatus run(const WithConstants& operands, const Op& op) {
     const PreparedConstants<L, Op> constants(op, operands);
-    walkOneSource(operands, elementRow<ConstantResults<L, Op>>, &constants);
+    using Row = std::conditional_t<isLong<Op>, ConstantResults<L, Op>, ShortConstantResults<L, Op>>;
+    walkOneSource(operands, elementRow<Row>, &constants);
     return PXL_OK;
 }
 
@@ -114,7 +116,7 @@ inline void zeroColours(ptrdiff_t n, uint8_t* d, const uint8_t* alpha, ptrdiff_t
         else
             std::memset(d, 0, static_cast<size_t>(n * pixel));
     };
-    walkRows(o.roi.width, o.roi.height, row, inPixels(o.dst, pixel));
+    walkRows(o.roi.width, o.roi.height, row, Destination{o.dst, o.dstStep, pixel});
     return PXL_OK;
 }
 

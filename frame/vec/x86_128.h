@@ -148,8 +148,12 @@ PXL_INLINE Vec<T> operator>>(Vec<T> v, ShiftCount<T> count) {
 struct LaneCounts {
     __m128i count[4];
 
-    PXL_INLINE explicit LaneCounts(const uint32_t* counts) {
-        for (int i = 0; i < 4; ++i) count[i] = _mm_cvtsi32_si128(static_cast<int>(counts[i] > 31 ? 32 : counts[i]));
+    PXL_INLINE explicit LaneCounts(Vec<uint32_t> counts) {
+        const __m128i zero = _mm_setzero_si128();
+        count[0] = _mm_unpacklo_epi32(ints(counts), zero);
+        count[1] = _mm_srli_si128(count[0], 8);
+        count[2] = _mm_unpackhi_epi32(ints(counts), zero);
+        count[3] = _mm_srli_si128(count[2], 8);
     }
     // Lane i of by(count[i]).
     template <class By>

@@ -157,7 +157,7 @@ PXL_INLINE Vec<T> operator>>(Vec<T> v, ShiftCount<T> count) {
 struct LaneCounts {
     Vec<uint32_t> count;
 
-    PXL_INLINE explicit LaneCounts(const uint32_t* counts) : count(LoadU(counts)) {}
+    PXL_INLINE explicit LaneCounts(Vec<uint32_t> counts) : count(counts) {}
 };
 PXL_INLINE Vec<uint32_t> operator<<(Vec<uint32_t> v, const LaneCounts& counts) {
     return fromInts<uint32_t>(_mm256_sllv_epi32(ints(v), ints(counts.count)));
