@@ -24,14 +24,17 @@ PxlStatus copy(Image<const T, Elements> src, Image<T, Elements> dst, ImageSize r
     const auto s = bytesOf(elementsOf(src));
     const auto d = bytesOf(elementsOf(dst));
     const auto walkBytes = [&](auto moveRow) {
-        const auto row = [=](ptrdiff_t n, const uint8_t* from, uint8_t* to) { moveRow(from, to, n * s.pixelBytes); };
+        // In line, though the walker calls it in two places: a call would cost as much as a short row.
+        const auto row = [=](ptrdiff_t n, const uint8_t* from, uint8_t* to) __attribute__((always_inline)) {
+            moveRow(from, to, n * s.pixelBytes);
+        };
         walkElements(roi, Elements, row, s, d);
     };
     const bool streamed = src.base != dst.base && isStreamed(ptrdiff_t{roi.width} * Elements, roi.height, s, d);
     if (streamed)
         walkBytes(streamRow);
     else
-        walkBytes([](auto... row) { copyRow(row...); });
+        walkBytes([](auto... row) __attribute__((always_inline)) { copyRow(row...); });
     finishStreamed(streamed);
     return PXL_OK;
 }

@@ -246,11 +246,11 @@ private:
         Sum sum[1] = {};
         addNeighbourhood<Rule>(f_, s, sum, [n = n_](const T* p) { return loadFewLanes<Lane>(p, n); });
         if constexpr (std::is_same_v<Result, SumItself>) {
-            d.storeFew(Rule::value(sum[0]), n_);
+            d.template storeFew<unit>(Rule::value(sum[0]), n_);
         } else {
             Vec<int32_t> result[1];
             round(sum, result);
-            d.storeFew(DemoteTo<T>(result[0]), n_);
+            d.template storeFew<unit>(DemoteTo<T>(result[0]), n_);
         }
     }
 

@@ -34,9 +34,10 @@ struct DestinationRow {
             v = withAlpha(v, LoadFirst<Count>(row + x), x);
         StoreFirst<Count>(v, row + x);
     }
-    // n lanes, fewer than a register, at the start of the row.
+    // n < Count lanes at the start of the row.
+    template <int Count>
     PXL_INLINE void storeFew(Vec<T> v, ptrdiff_t n) const {
-        if (keepsAlpha) v = withAlpha(v, LoadN<lanes<T>>(static_cast<const T*>(row), n), 0);
+        if (keepsAlpha) v = withAlpha(v, LoadN<Count>(static_cast<const T*>(row), n), 0);
         StoreN(v, row, n);
     }
     // What begins with element x, the first one of a pixel.
@@ -52,7 +53,7 @@ private:
 template <class T>
 [[gnu::noinline]] void copyRow(const T* s, DestinationRow<T> d, ptrdiff_t n) {
     constexpr int step = lanes<T>;
-    if (n < step) return d.storeFew(LoadN<step>(s, n), n);
+    if (n < step) return d.template storeFew<step>(LoadN<step>(s, n), n);
     ptrdiff_t x = 0;
     for (; x + step <= n; x += step) {
         const Vec<T> v = LoadU(s + x);

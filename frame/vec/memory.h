@@ -74,7 +74,8 @@ PXL_INLINE void copyFew(void* to, const void* from, size_t n) {
 }
 
 // Copies a row to one that is disjoint from it, or to itself. Short rows in line: a call would cost as much as the copy.
-// The vector at the end is loaded first, since it may overlap what is stored before it.
+// The vector at the end is loaded first, since it may overlap what is stored before it. The loop holds its vectors, or
+// GCC may make it a string instruction, which takes long to start.
 PXL_INLINE void copyRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     if (bytes < vecBytes) return copyFew<vecBytes>(d, s, static_cast<size_t>(bytes));
     if (bytes > 8 * vecBytes) return static_cast<void>(std::memmove(d, s, static_cast<size_t>(bytes)));
@@ -82,7 +83,7 @@ PXL_INLINE void copyRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     if (bytes <= 2 * vecBytes) {
         StoreU(LoadU(s), d);
     } else {
-        for (ptrdiff_t x = 0; x < bytes - vecBytes; x += vecBytes) StoreU(LoadU(s + x), d + x);
+        for (ptrdiff_t x = 0; x < bytes - vecBytes; x += vecBytes) StoreU(Held(LoadU(s + x)), d + x);
     }
     StoreU(last, d + bytes - vecBytes);
 }

@@ -40,15 +40,16 @@ PXL_INLINE void StoreFirst(Vec<T> v, T* p) {
 
 // ---- a count known at run time --------------------------------------------------------------------------------------
 
-// n bytes in units of Unit, 16 at most, zeros behind them. Built in registers, since a load of what was just stored in
+// n < Limit bytes in units of Unit, 16 at most, zeros behind them. Built in registers, since a load of what was just stored in
 // pieces would have to wait for them.
-template <int Unit = 1>
+template <int Unit = 1, int Limit = blockBytes + 1>
 PXL_INLINE Block LoadBlockN(const void* from, ptrdiff_t n) {
     const uint8_t* p = static_cast<const uint8_t*>(from);
-    if (n >= 8) {
-        const Block last = ShiftLowerHalfRight(LoadBlock<8>(p + n - 8), 128 - 8 * n); // without what is in the first 8
-        return InterleaveLower<8>(LoadBlock<8>(p), last);
-    }
+    if constexpr (Limit > 8)
+        if (n >= 8) {
+            const Block last = ShiftLowerHalfRight(LoadBlock<8>(p + n - 8), 128 - 8 * n); // without the first 8 bytes
+            return InterleaveLower<8>(LoadBlock<8>(p), last);
+        }
     uint64_t few = 0;
     if constexpr (Unit == 4) {
         if (n > 0) few = load1(reinterpret_cast<const uint32_t*>(p));
@@ -70,14 +71,16 @@ PXL_INLINE Vec<T> LoadN(const T* p, ptrdiff_t n) {
     const char* from = reinterpret_cast<const char*>(p);
     constexpr int unit = sizeof(T);
     const ptrdiff_t bytes = n * unit;
+    constexpr int limit = Count * unit < blockBytes ? Count * unit : blockBytes;
     if constexpr (Count * unit > blockBytes) {
         if (bytes >= blockBytes)
             return FromBlocks<T>([=](int k) __attribute__((always_inline)) {
-                return k == 0 ? LoadBlock<blockBytes>(from) : LoadBlockN<unit>(from + blockBytes, bytes - blockBytes);
+                return k == 0 ? LoadBlock<blockBytes>(from)
+                              : LoadBlockN<unit, limit>(from + blockBytes, bytes - blockBytes);
             });
-        return ZeroExtend<T>(LoadBlockN<unit>(from, bytes));
+        return ZeroExtend<T>(LoadBlockN<unit, limit>(from, bytes));
     }
-    return FromBlock<T>(LoadBlockN<unit>(from, bytes));
+    return FromBlock<T>(LoadBlockN<unit, limit>(from, bytes));
 }
 
 // Stores the first n lanes, n below their count.
