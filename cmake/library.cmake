@@ -43,7 +43,10 @@ add_custom_target(pxl_generate DEPENDS ${PXL_GENERATED}/stamp)
 
 # -ffp-contract=off and no fast-math: results are the same bits on every target. -fno-strict-aliasing: members that move bits
 # see the caller's elements as unsigned ones. Nothing here throws, so nothing of the C++ runtime is needed.
-set(PXL_CODE_FLAGS -ffp-contract=off -fno-math-errno -fno-strict-aliasing -fno-exceptions -fno-rtti)
+# Branches within 32 bytes: some processors run a loop whose branch crosses such a boundary up to half slower, so that without this
+# the time of a short call would depend on where the linker puts it.
+set(PXL_CODE_FLAGS -ffp-contract=off -fno-math-errno -fno-strict-aliasing -fno-exceptions -fno-rtti
+                   -Wa,-mbranches-within-32B-boundaries)
 
 function(pxl_objects name)
     add_library(${name} OBJECT ${ARGN})
