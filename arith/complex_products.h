@@ -54,8 +54,13 @@ PXL_INLINE Vec<int32_t> complexProductOf(Vec<int32_t> x, Vec<int32_t> y, Narrow&
 
 // ---- scaleFactor 0 and more -----------------------------------------------------------------------------------------
 
+template <class L>
+inline constexpr bool isProductLong = sizeof(L) == 4;
+
+template <class L>
 struct SaturatedComplexProduct {
-    template <class L>
+    static constexpr bool isLong = isProductLong<L>;
+
     PXL_INLINE Vec<L> operator()(Vec<L> x, Vec<L> y) const {
         return complexProductOf(x, y, [](auto part) { return part; });
     }
@@ -63,6 +68,7 @@ struct SaturatedComplexProduct {
 
 template <class L>
 struct ShiftedComplexProduct {
+    static constexpr bool isLong = isProductLong<L>;
     std::conditional_t<sizeof(L) == 2, RoundingQuotient, RoundingShift<int64_t>> shift;
 
     explicit ShiftedComplexProduct(int scaleFactor) : shift(scaleFactor) {}
@@ -79,9 +85,10 @@ inline constexpr int complexProductsVanishFrom = 16 * sizeof(L);
 template <class L>
 [[gnu::noinline]] inline PxlStatus multiplyComplex(const pointwise::Operands& operands, int scaleFactor) {
     if (scaleFactor >= complexProductsVanishFrom<L>) return pointwise::setZero(operands);
-    if (scaleFactor == 0) return pointwise::run<L>(operands, SaturatedComplexProduct{});
+    if (scaleFactor == 0) return pointwise::run<L>(operands, SaturatedComplexProduct<L>{});
     if (scaleFactor > 0) return pointwise::run<L>(operands, ShiftedComplexProduct<L>(scaleFactor));
-    return pointwise::run<L>(operands, Scaled{SaturatedComplexProduct{}, SaturatingShift<L>(leftShiftOf(scaleFactor))});
+    return pointwise::run<L>(operands,
+                             Scaled{SaturatedComplexProduct<L>{}, SaturatingShift<L>(leftShiftOf(scaleFactor))});
 }
 
 } // namespace pxl::PXL_TARGET::arith

@@ -49,7 +49,7 @@ void unpackRow(ptrdiff_t n, const uint8_t* s, int bit, uint8_t* d) {
     unpack64(load64Bits(s + last / 8, static_cast<int>(last % 8)), d + n - 64);
 }
 
-PxlStatus unpackBits(Image<const uint8_t> src, int srcBitOffset, Image<uint8_t> dst, ImageSize roi) {
+PxlStatus UnpackBits(Image<const uint8_t> src, int srcBitOffset, Image<uint8_t> dst, ImageSize roi) {
     if (const PxlStatus status =
             check(null(src, dst), size(roi), steps(src, dst), refuse(srcBitOffset < 0, PXL_E_SIZE)))
         return status;
@@ -74,7 +74,7 @@ inline ptrdiff_t rowsPerBand(Image<const uint8_t> src, const Bits<uint8_t>& dst,
     return roi.width < worthwhile || extentOf(src, roi.width, roi.height).meets(written) ? 1 : bandRows;
 }
 
-PxlStatus ditherToBits(Image<const uint8_t> src, Image<uint8_t> dst, int dstBitOffset, ImageSize roi,
+PxlStatus DitherToBits(Image<const uint8_t> src, Image<uint8_t> dst, int dstBitOffset, ImageSize roi,
                        uint8_t threshold) {
     if (const PxlStatus status = check(null(src, dst), size(roi), refuse(dstBitOffset < 0, PXL_E_SIZE))) return status;
     // One row of errors, with room on its left; the bits of a band take less than the other two rows.

@@ -231,7 +231,7 @@ Layout layoutOf(Image<uint8_t, Bytes, Processed>) {
 Check fits(const Borders& b) { return refuse(!b.isValid(), PXL_E_SIZE); }
 
 template <class T, int Elements, int Channels>
-PxlStatus copyConstBorder(Image<const T, Elements, Channels> src, ImageSize srcSize, Image<T, Elements, Channels> dst,
+PxlStatus CopyConstBorder(Image<const T, Elements, Channels> src, ImageSize srcSize, Image<T, Elements, Channels> dst,
                           ImageSize dstSize, int borderTop, int borderLeft, Values<T, Channels> value) {
     const Borders b(srcSize, dstSize, borderTop, borderLeft);
     if (const PxlStatus status = check(null(src, dst), steps(src, dst), fits(b), null(value))) return status;
@@ -245,7 +245,7 @@ PxlStatus copyConstBorder(Image<const T, Elements, Channels> src, ImageSize srcS
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus copyReplicateBorder(Image<const T, Elements, Channels> src, ImageSize srcSize,
+PxlStatus CopyReplicateBorder(Image<const T, Elements, Channels> src, ImageSize srcSize,
                               Image<T, Elements, Channels> dst, ImageSize dstSize, int borderTop, int borderLeft) {
     const Borders b(srcSize, dstSize, borderTop, borderLeft);
     if (const PxlStatus status = check(null(src, dst), steps(src, dst), fits(b))) return status;
@@ -255,7 +255,7 @@ PxlStatus copyReplicateBorder(Image<const T, Elements, Channels> src, ImageSize 
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus replicateBorderInPlace(Image<T, Elements, Channels> inside, ImageSize srcSize, ImageSize dstSize,
+PxlStatus ReplicateBorderInPlace(Image<T, Elements, Channels> inside, ImageSize srcSize, ImageSize dstSize,
                                  int borderTop, int borderLeft) {
     const Borders b(srcSize, dstSize, borderTop, borderLeft);
     if (const PxlStatus status = check(null(inside), steps(inside), fits(b))) return status;
@@ -265,7 +265,7 @@ PxlStatus replicateBorderInPlace(Image<T, Elements, Channels> inside, ImageSize 
 }
 
 template <class T>
-PxlStatus copyWrapBorder(Image<const T> src, ImageSize srcSize, Image<T> dst, ImageSize dstSize, int borderTop,
+PxlStatus CopyWrapBorder(Image<const T> src, ImageSize srcSize, Image<T> dst, ImageSize dstSize, int borderTop,
                          int borderLeft) {
     const Borders b(srcSize, dstSize, borderTop, borderLeft);
     if (const PxlStatus status = check(null(src, dst), steps(src, dst), fits(b))) return status;
@@ -274,7 +274,7 @@ PxlStatus copyWrapBorder(Image<const T> src, ImageSize srcSize, Image<T> dst, Im
 }
 
 template <class T>
-PxlStatus wrapBorderInPlace(Image<T> inside, ImageSize srcSize, ImageSize dstSize, int borderTop, int borderLeft) {
+PxlStatus WrapBorderInPlace(Image<T> inside, ImageSize srcSize, ImageSize dstSize, int borderTop, int borderLeft) {
     const Borders b(srcSize, dstSize, borderTop, borderLeft);
     if (const PxlStatus status = check(null(inside), steps(inside), fits(b))) return status;
     extendInPlace(bytesOf(inside), b, layoutOf(bytesOf(inside)), makeWrapRows<sizeof(T)>, periodic);

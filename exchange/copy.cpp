@@ -19,7 +19,7 @@ void streamRow(const uint8_t* s, uint8_t* d, ptrdiff_t n) {
 }
 
 template <class T, int Elements>
-PxlStatus copy(Image<const T, Elements> src, Image<T, Elements> dst, ImageSize roi) {
+PxlStatus Copy(Image<const T, Elements> src, Image<T, Elements> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
     const auto s = bytesOf(elementsOf(src));
     const auto d = bytesOf(elementsOf(dst));
@@ -41,7 +41,7 @@ PxlStatus copy(Image<const T, Elements> src, Image<T, Elements> dst, ImageSize r
 
 // AC4 to AC4, C3 to AC4 and AC4 to C3.
 template <class T, int SrcElements, int DstElements>
-PxlStatus copyColour(Image<const T, SrcElements, 3> src, Image<T, DstElements, 3> dst, ImageSize roi) {
+PxlStatus CopyColour(Image<const T, SrcElements, 3> src, Image<T, DstElements, 3> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
     if constexpr (DstElements == 3) {
         walkGroups(

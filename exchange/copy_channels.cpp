@@ -95,7 +95,7 @@ bool areChannelsOfOneImage(Image<const T, Elements, 1> src, Image<T, Elements, 1
 }
 
 template <class T, int SrcElements, int DstElements>
-PxlStatus copyChannel(Image<const T, SrcElements, 1> src, Image<T, DstElements, 1> dst, ImageSize roi) {
+PxlStatus CopyChannel(Image<const T, SrcElements, 1> src, Image<T, DstElements, 1> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
     const auto row = copyChannelRow<T, SrcElements, DstElements>;
     if constexpr (SrcElements == DstElements)
@@ -214,7 +214,7 @@ void walkPlanes(ImageSize roi, Kernel kernel, Pixels pixels, Planes<T, Count> pl
 }
 
 template <class T, int Count>
-PxlStatus split(Image<const T, Count> src, Planes<T, Count> dst, ImageSize roi) {
+PxlStatus Split(Image<const T, Count> src, Planes<T, Count> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
     const auto row = [](Storing storing, ptrdiff_t n, const T* s, auto... d) {
         splitRow<T, Count>(n, s, {d...}, storing);
@@ -224,7 +224,7 @@ PxlStatus split(Image<const T, Count> src, Planes<T, Count> dst, ImageSize roi) 
 }
 
 template <class T, int Count>
-PxlStatus merge(Planes<const T, Count> src, Image<T, Count> dst, ImageSize roi) {
+PxlStatus Merge(Planes<const T, Count> src, Image<T, Count> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
     const auto row = [](Storing storing, ptrdiff_t n, T* d, auto... s) { mergeRow<T, Count>(n, {s...}, d, storing); };
     walkPlanes(roi, row, dst, src);

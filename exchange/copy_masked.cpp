@@ -35,7 +35,7 @@ PxlStatus copyPixels(Image<const uint8_t, anyElements> src, Image<uint8_t, anyEl
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus copyMasked(Image<const T, Elements, Channels> src, Image<T, Elements, Channels> dst, ImageSize roi,
+PxlStatus CopyMasked(Image<const T, Elements, Channels> src, Image<T, Elements, Channels> dst, ImageSize roi,
                      Image<const uint8_t> mask) {
     constexpr int E = Elements * sizeof(T);
     if constexpr (Channels == Elements)

@@ -231,7 +231,7 @@ Check axis(PxlAxis flip) {
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus mirror(Image<const T, Elements, Channels> src, Image<T, Elements, Channels> dst, ImageSize roi,
+PxlStatus Mirror(Image<const T, Elements, Channels> src, Image<T, Elements, Channels> dst, ImageSize roi,
                  PxlAxis flip) {
     if (const PxlStatus status = check(null(src, dst), size(roi), axis(flip))) return status;
     mirrorPixels(bytesOf(src), bytesOf(dst), roi, flip);
@@ -239,7 +239,7 @@ PxlStatus mirror(Image<const T, Elements, Channels> src, Image<T, Elements, Chan
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus mirrorInPlace(Image<T, Elements, Channels> image, ImageSize roi, PxlAxis flip) {
+PxlStatus MirrorInPlace(Image<T, Elements, Channels> image, ImageSize roi, PxlAxis flip) {
     if (const PxlStatus status = check(null(image), size(roi), axis(flip))) return status;
     mirrorPixelsInPlace(bytesOf(image), roi, flip);
     return PXL_OK;

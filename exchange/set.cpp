@@ -56,7 +56,7 @@ PxlStatus setPixels(Values<uint8_t, Processed> value, Image<uint8_t, E, Processe
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus set(Values<T, Channels> value, Image<T, Elements, Channels> dst, ImageSize roi) {
+PxlStatus Set(Values<T, Channels> value, Image<T, Elements, Channels> dst, ImageSize roi) {
     return setPixels(bytesOf(value), bytesOf(dst), roi);
 }
 
@@ -73,7 +73,7 @@ inline constexpr BytesBehind<E, First> bytesBehind;
 
 // The pointer stands at the chosen channel, so the last pixel of a row may end right behind it.
 template <class T, int Elements>
-PxlStatus setChannel(Values<T, 1> value, Image<T, Elements, 1> dst, ImageSize roi) {
+PxlStatus SetChannel(Values<T, 1> value, Image<T, Elements, 1> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(dst), size(roi))) return status;
     constexpr int E = Elements * sizeof(T);
     const T pixel[Elements] = {value[0]};
@@ -121,7 +121,7 @@ PxlStatus setMaskedPixels(Values<uint8_t, Processed> value, Image<uint8_t, E, Pr
 }
 
 template <class T, int Elements, int Channels>
-PxlStatus setMasked(Values<T, Channels> value, Image<T, Elements, Channels> dst, ImageSize roi,
+PxlStatus SetMasked(Values<T, Channels> value, Image<T, Elements, Channels> dst, ImageSize roi,
                     Image<const uint8_t> mask) {
     return setMaskedPixels(bytesOf(value), bytesOf(dst), roi, mask);
 }

@@ -98,7 +98,7 @@ void swap(Src src, Dst dst, ImageSize roi, const int32_t* dstOrder, typename Dst
 
 // C3 and AC4, which keeps its fourth element.
 template <class T, int Elements>
-PxlStatus swapChannels(Image<const T, Elements, 3> src, Image<T, Elements, 3> dst, ImageSize roi,
+PxlStatus SwapChannels(Image<const T, Elements, 3> src, Image<T, Elements, 3> dst, ImageSize roi,
                        const int32_t* dstOrder) {
     if (const PxlStatus status = check(null(src, dst, dstOrder), size(roi), steps(src, dst), order<3>(dstOrder, 2)))
         return status;
@@ -108,7 +108,7 @@ PxlStatus swapChannels(Image<const T, Elements, 3> src, Image<T, Elements, 3> ds
 
 // The step before the size, unlike the other members.
 template <class T>
-PxlStatus swapFourInPlace(Image<const T, 4> src, Image<T, 4> dst, ImageSize roi, const int32_t* dstOrder) {
+PxlStatus SwapFourInPlace(Image<const T, 4> src, Image<T, 4> dst, ImageSize roi, const int32_t* dstOrder) {
     if (const PxlStatus status = check(null(dst, dstOrder), steps(dst), size(roi), order<4>(dstOrder, 3)))
         return status;
     swap<4, false>(src, dst, roi, dstOrder);
@@ -116,7 +116,7 @@ PxlStatus swapFourInPlace(Image<const T, 4> src, Image<T, 4> dst, ImageSize roi,
 }
 
 template <class T>
-PxlStatus swapThreeToFour(Image<const T, 3> src, Image<T, 4> dst, ImageSize roi, const int32_t* dstOrder, T value) {
+PxlStatus SwapThreeToFour(Image<const T, 3> src, Image<T, 4> dst, ImageSize roi, const int32_t* dstOrder, T value) {
     if (const PxlStatus status = check(null(src, dst, dstOrder), size(roi), order<4>(dstOrder, INT32_MAX)))
         return status;
     if (isInRange<4>(dstOrder, fill))
@@ -127,7 +127,7 @@ PxlStatus swapThreeToFour(Image<const T, 3> src, Image<T, 4> dst, ImageSize roi,
 }
 
 template <class T>
-PxlStatus swapFourToThree(Image<const T, 4> src, Image<T, 3> dst, ImageSize roi, const int32_t* dstOrder) {
+PxlStatus SwapFourToThree(Image<const T, 4> src, Image<T, 3> dst, ImageSize roi, const int32_t* dstOrder) {
     if (const PxlStatus status = check(null(src, dst, dstOrder), size(roi), order<3>(dstOrder, 3))) return status;
     swap<3, false>(src, dst, roi, dstOrder);
     return PXL_OK;
@@ -150,7 +150,7 @@ void duplicateRow(ptrdiff_t n, const T* s, T* d) {
 }
 
 template <class T>
-PxlStatus duplicate(Image<const T> src, Image<T, 3> dst, ImageSize roi) {
+PxlStatus Duplicate(Image<const T> src, Image<T, 3> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
     walk(roi, duplicateRow<T>, src, dst);
     return PXL_OK;

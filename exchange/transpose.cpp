@@ -203,14 +203,14 @@ void transposeSquare(Destination<Bytes> image, ptrdiff_t side) {
 // ---- entries --------------------------------------------------------------------------------------------------------
 
 template <class T, int Elements>
-PxlStatus transpose(Image<const T, Elements> src, Image<T, Elements> dst, ImageSize roi) {
+PxlStatus Transpose(Image<const T, Elements> src, Image<T, Elements> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
     transposeRegion(bytesOf(src), bytesOf(dst), roi);
     return PXL_OK;
 }
 
 template <class T, int Elements>
-PxlStatus transposeInPlace(Image<T, Elements> image, ImageSize roi) {
+PxlStatus TransposeInPlace(Image<T, Elements> image, ImageSize roi) {
     if (const PxlStatus status = check(null(image), size(roi), refuse(roi.width != roi.height, PXL_E_SIZE)))
         return status;
     transposeSquare(bytesOf(image), roi.width);

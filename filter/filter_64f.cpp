@@ -4,7 +4,7 @@
 namespace pxl::PXL_TARGET::filter {
 namespace {
 
-PxlStatus filter64f(Image<const double> src, Image<double> dst, ImageSize roi, const double* kernel,
+PxlStatus Filter64f(Image<const double> src, Image<double> dst, ImageSize roi, const double* kernel,
                     ImageSize kernelSize, ImagePoint anchor, uint8_t* /*buffer*/) {
     const Operands<double, double> operands{src, dst, roi, kernel, kernelSize, anchor};
     if (const PxlStatus status = checkLinear(operands)) return status;
@@ -14,7 +14,7 @@ PxlStatus filter64f(Image<const double> src, Image<double> dst, ImageSize roi, c
     return PXL_OK;
 }
 
-PxlStatus filterBufSize64f(ImageSize kernelSize, int roiWidth, int* result) {
+PxlStatus FilterBufSize64f(ImageSize kernelSize, int roiWidth, int* result) {
     if (const PxlStatus status = check(null(result), size(kernelSize), refuse(roiWidth < 1, PXL_E_SIZE))) return status;
     *result = 0;
     return PXL_OK;

@@ -190,6 +190,7 @@ private:
 // An operation and the shift of its result.
 template <class Op, class Shift>
 struct Scaled {
+    static constexpr bool isLong = requires { requires Op::isLong; };
     Op op;
     Shift shift;
 

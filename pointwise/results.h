@@ -26,7 +26,7 @@ inline constexpr bool warns = requires {
 };
 template <class Op>
 inline constexpr bool isLong = requires {
-    Op::isLong;
+    requires Op::isLong;
 };
 
 template <class Op, class L>
@@ -53,11 +53,13 @@ struct Results {
     const L *a, *b;
     Op op;
     bool* given;
+    bool still;
+    int vector = 0; // of a ConstantRow, where loops are not unrolled
     Mask<L> warned = Zero<MaskLane<L>>();
 
     PXL_INLINE Results(const void* from, const void* with, const RowPlan& plan)
         : a(static_cast<const L*>(from)), b(static_cast<const L*>(with)), op(*static_cast<const Op*>(plan.op)),
-          given(plan.given) {}
+          given(plan.given), still(plan.still) {}
 
     PXL_INLINE Vec<L> of(Vec<L> as, Vec<L> bs) {
         if constexpr (Preparing<Op, L>) {
@@ -82,7 +84,10 @@ struct Results {
             return of(as, LoadU(b + o));
     }
     PXL_INLINE void next() {
-        if constexpr (!isUnary<Op, L>) b += lanes<L>;
+        if constexpr (isUnary<Op, L>) return;
+        b += lanes<L>;
+        if constexpr (!isUnrolled)
+            if (still && ++vector == 3) b -= 3 * lanes<L>, vector = 0;
     }
     PXL_INLINE Vec<L> inPixels(ptrdiff_t x, ptrdiff_t o, Mask<L> kept) {
         const Vec<L> as = LoadU(a + x);

@@ -264,30 +264,35 @@ PXL_INLINE void deinterleave(Vec<T> (&v)[4]) {
 
 // ---- whole pixels from and to memory ------------------------------------------------------------------------------
 
-// Bytes of three channels by permutes of two vectors: two for each vector of the result. Vectors are as they lie in
-// memory. Byte i of a channel is byte 3 i + Channel of the pixels; what lies in the third vector comes second.
+// Bytes of three channels by one permute of a vector for each. In three vectors of pixels as they lie in memory, no two hold
+// the same channel in the same lane: the lanes of a channel are blended and then put in order. The other way round alike.
+template <int Vector>
+constexpr int channelInLane(int lane) {
+    return (Vector * vecBytes + lane) % 3;
+}
+template <int Channel>
+PXL_INLINE Vec<uint8_t> blendedLanes(Vec<uint8_t> a, Vec<uint8_t> b, Vec<uint8_t> c) {
+    a = BlendLanes<[](int lane) { return channelInLane<1>(lane) == Channel; }>(a, b);
+    return BlendLanes<[](int lane) { return channelInLane<2>(lane) == Channel; }>(a, c);
+}
 template <int Channel>
 PXL_INLINE Vec<uint8_t> permutedChannel(Vec<uint8_t> a, Vec<uint8_t> b, Vec<uint8_t> c) {
-    constexpr auto firstTwo = [](int i) { return (3 * i + Channel) % (2 * vecBytes); };
-    constexpr auto withThird = [](int i) {
-        const int from = 3 * i + Channel;
-        return from < 2 * vecBytes ? i : from - vecBytes;
+    constexpr auto from = [](int pixel) { return (3 * pixel + Channel) % vecBytes; };
+    return TableLookupLanes(blendedLanes<Channel>(a, b, c), fromLanes<uint8_t, from>());
+}
+// A channel in the lanes that it takes in the vectors of pixels, whichever of the three it is in.
+template <int Channel>
+PXL_INLINE Vec<uint8_t> spreadLanes(Vec<uint8_t> v) {
+    constexpr auto from = [](int lane) {
+        const int vector = channelInLane<0>(lane) == Channel ? 0 : channelInLane<1>(lane) == Channel ? 1 : 2;
+        return (vector * vecBytes + lane) / 3;
     };
-    const Vec<uint8_t> part = TwoTablesLookupLanes(a, b, fromLanes<uint8_t, firstTwo>());
-    return TwoTablesLookupLanes(part, c, fromLanes<uint8_t, withThird>());
+    return TableLookupLanes(v, fromLanes<uint8_t, from>());
 }
 template <int Index>
-PXL_INLINE Vec<uint8_t> permutedPixels(const Vec<uint8_t> (&v)[3]) {
-    constexpr auto firstTwo = [](int i) {
-        const int at = Index * vecBytes + i;
-        return at % 3 == 1 ? vecBytes + at / 3 : at / 3;
-    };
-    constexpr auto withThird = [](int i) {
-        const int at = Index * vecBytes + i;
-        return at % 3 == 2 ? vecBytes + at / 3 : i;
-    };
-    const Vec<uint8_t> part = TwoTablesLookupLanes(v[0], v[1], fromLanes<uint8_t, firstTwo>());
-    return TwoTablesLookupLanes(part, v[2], fromLanes<uint8_t, withThird>());
+PXL_INLINE Vec<uint8_t> blendedPixels(Vec<uint8_t> v0, Vec<uint8_t> v1, Vec<uint8_t> v2) {
+    v0 = BlendLanes<[](int lane) { return channelInLane<Index>(lane) == 1; }>(v0, v1);
+    return BlendLanes<[](int lane) { return channelInLane<Index>(lane) == 2; }>(v0, v2);
 }
 template <int Pixels, int N, class T>
 inline constexpr bool permutesPixels = hasBytePermute&& N == 3 && sizeof(T) == 1 && Pixels == lanes<T>;
@@ -306,8 +311,9 @@ PXL_INLINE void LoadInterleaved(const T* p, Vec<T> (&v)[N]) {
 template <int Pixels, class Stores = Cached, int N, class T>
 PXL_INLINE void StoreInterleaved(Vec<T> (&v)[N], T* p) {
     if constexpr (permutesPixels<Pixels, N, T>) {
+        const Vec<uint8_t> a = spreadLanes<0>(v[0]), b = spreadLanes<1>(v[1]), c = spreadLanes<2>(v[2]);
         unrolled<N>([&](auto j)
-                        __attribute__((always_inline)) { Stores::store(permutedPixels<j>(v), p + j * vecBytes); });
+                        __attribute__((always_inline)) { Stores::store(blendedPixels<j>(a, b, c), p + j * vecBytes); });
     } else {
         interleave(v);
         storePixels<Pixels, Stores>(v, p);

@@ -73,19 +73,27 @@ PXL_INLINE void copyFew(void* to, const void* from, size_t n) {
     if (n == 1) *d = *s;
 }
 
-// Copies a row to one that is disjoint from it, or to itself. Short rows in line: a call would cost as much as the copy.
-// The vector at the end is loaded first, since it may overlap what is stored before it. The loop holds its vectors, or
-// GCC may make it a string instruction, which takes long to start.
+// Copies N vectors from each end of bytes, which may overlap. All are loaded before the first store, since a row may be
+// copied to itself.
+template <int N>
+PXL_INLINE void copyEnds(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+    const ptrdiff_t back = bytes - N * vecBytes;
+    Vec<uint8_t> head[N], tail[N];
+#pragma GCC unroll 4
+    for (int i = 0; i < N; ++i) head[i] = LoadU(s + i * vecBytes), tail[i] = LoadU(s + back + i * vecBytes);
+#pragma GCC unroll 4
+    for (int i = 0; i < N; ++i) StoreU(head[i], d + i * vecBytes), StoreU(tail[i], d + back + i * vecBytes);
+}
+
+// Copies a row to one that is disjoint from it, or to itself. Short rows in line and without loops: a call would cost as
+// much as the copy.
 PXL_INLINE void copyRow(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
     if (bytes < vecBytes) return copyFew<vecBytes>(d, s, static_cast<size_t>(bytes));
-    if (bytes > 8 * vecBytes) return static_cast<void>(std::memmove(d, s, static_cast<size_t>(bytes)));
-    const Vec<uint8_t> last = LoadU(s + bytes - vecBytes);
-    if (bytes <= 2 * vecBytes) {
-        StoreU(LoadU(s), d);
-    } else {
-        for (ptrdiff_t x = 0; x < bytes - vecBytes; x += vecBytes) StoreU(Held(LoadU(s + x)), d + x);
-    }
-    StoreU(last, d + bytes - vecBytes);
+    if (bytes <= 2 * vecBytes) return copyEnds<1>(s, d, bytes);
+    if (bytes <= 4 * vecBytes) return copyEnds<2>(s, d, bytes);
+    if (bytes <= 6 * vecBytes) return copyEnds<3>(s, d, bytes);
+    if (bytes <= 8 * vecBytes) return copyEnds<4>(s, d, bytes);
+    std::memmove(d, s, static_cast<size_t>(bytes));
 }
 
 } // namespace pxl::PXL_TARGET

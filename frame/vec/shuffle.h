@@ -20,7 +20,7 @@ PXL_INLINE Vec<T> ShuffleBlocks(Vec<T> v) {
     return Shuffle2<[](int i) { return i / perBlock * perBlock + From(i % perBlock); }>(v, v);
 }
 
-// An ability: TwoTablesLookupLanes of bytes, which crosses blocks and takes its bytes from two vectors.
+// An ability: TableLookupLanes and TwoTablesLookupLanes of bytes, which cross blocks, the second between two vectors.
 template <class V>
 concept HasTwoTables = requires(V v) {
     TwoTablesLookupLanes(v, v, v);
