@@ -194,7 +194,11 @@ const LibVersion* pxliGetLibVersion(void);
  *   stepBytes is null    nothing is written
  *   width or height < 1  *stepBytes becomes 0
  *   no memory is left    *stepBytes has the step; so too where step * height, a signed 32-bit product, wraps to less
- *                        than 1
+ *                        than 1, and where the step itself, a signed 32-bit number, wraps to a negative one
+ *
+ * An image that is returned holds height rows of the whole row length, also where step * height wraps to a positive
+ * number. Where the step itself does, from rows of 4 GiB on, *stepBytes is less than a row: rows then overlap in that
+ * memory.
  */
 uint8_t* pxliMalloc_8u_C1(int width, int height, int* stepBytes);
 uint8_t* pxliMalloc_8u_C2(int width, int height, int* stepBytes);
