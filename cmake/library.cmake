@@ -76,7 +76,7 @@ foreach(target IN LISTS PXL_TARGETS)
     list(APPEND PXL_TARGET_OBJECTS $<TARGET_OBJECTS:pxl_${target}>)
 endforeach()
 
-pxl_objects(pxl_common ${PXL_EXPORT_SOURCES} frame/memory.cpp frame/version.cpp frame/target.cpp)
+pxl_objects(pxl_common ${PXL_EXPORT_SOURCES} frame/memory.cpp frame/version.cpp frame/target.cpp frame/team.cpp)
 
 add_library(pxlcore SHARED core/pxlcore.cpp)
 target_compile_definitions(pxlcore PRIVATE PXLCORE_BUILD)

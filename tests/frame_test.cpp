@@ -133,9 +133,13 @@ TEST(Core, TeamSizeAndTexts) {
     EXPECT_GE(before, 1);
     EXPECT_EQ(pxlcoreSetNumThreads(3), PXL_OK);
     EXPECT_EQ(threads_omp_of_n_pxl, 3);
-    EXPECT_EQ(pxlcoreSetNumThreads(0), PXL_E_SIZE);
-    EXPECT_EQ(pxlcoreGetNumThreads(), 3);
-    pxlcoreSetNumThreads(before);
+    for (const int refused : {0, -1, INT32_MIN, PXLCORE_MAX_THREADS + 1, INT32_MAX}) {
+        EXPECT_EQ(pxlcoreSetNumThreads(refused), PXL_E_BAD_ARG);
+        EXPECT_EQ(pxlcoreGetNumThreads(), 3);
+    }
+    EXPECT_EQ(pxlcoreSetNumThreads(PXLCORE_MAX_THREADS), PXL_OK);
+    EXPECT_EQ(pxlcoreGetNumThreads(), 1024);
+    EXPECT_EQ(pxlcoreSetNumThreads(before), PXL_OK);
     EXPECT_STREQ(pxlcoreGetStatusText(PXL_OK), "success");
     EXPECT_STRNE(pxlcoreGetStatusText(PXL_E_CHANNEL_ORDER), pxlcoreGetStatusText(-77777));
     EXPECT_STREQ(pxlcoreGetStatusText(1080), "unknown warning");
