@@ -18,6 +18,8 @@ TEST(Version, IsOneConstantRecord) {
     EXPECT_EQ(v, pxliGetLibVersion());
     EXPECT_EQ(v->major, 5);
     EXPECT_EQ(v->minor, 3);
+    EXPECT_EQ(v->major, PXL_VERSION_MAJOR);
+    EXPECT_EQ(v->minor, PXL_VERSION_MINOR);
     EXPECT_EQ(v->buildMajor, 85);
     EXPECT_EQ(v->buildNumber, 496);
     EXPECT_EQ(std::memcmp(v->cpuCode, "mx\0\0", 4), 0);
