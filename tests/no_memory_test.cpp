@@ -17,7 +17,7 @@ using generic::Memories;
 class NoMemory : public EveryMember {
 protected:
     // One call whose nth allocation fails (0: none), over memory that holds what it held before the others.
-    int32_t call(const generic::Call& call, int nth) {
+    int32_t run(const generic::Call& call, int nth) {
         start().copyTo(actual(), call);
         const auto arguments = call.bind(actual().pointers());
         const FailingMalloc malloc(nth);
@@ -43,20 +43,20 @@ TEST_P(NoMemory, EveryAllocationMayFail) {
     generic::Random random(std::hash<std::string_view>()(member.name) + 4);
     int failed = 0, done = 0;
     for (int i = 0; i < 16 && !HasFailure(); ++i) {
-        const generic::Call random_call = randomCall(member, random);
-        for (int m = 0; m < random_call.memories; ++m) fillMemory(random_call, m, start().at(m), random);
+        const generic::Call call = randomCall(member, random);
+        for (int m = 0; m < call.memories; ++m) fillMemory(call, m, start().at(m), random);
         threads_omp_of_n_pxl = i % 2 ? 3 : 1;
         for (const pxl::KnownTarget& target : availableTargets(member)) {
             const TargetScope scope(target);
-            SCOPED_TRACE(testing::Message() << target.name << ": " << random_call.describe());
-            const int32_t status = call(random_call, 0);
+            SCOPED_TRACE(testing::Message() << target.name << ": " << call.describe());
+            const int32_t status = run(call, 0);
             if (status < 0) continue;
             ++done;
             const int all = allocations;
             for (int nth = 1; nth <= all; ++nth, ++failed) {
                 SCOPED_TRACE(testing::Message() << "allocation " << nth << " of " << all);
-                EXPECT_EQ(call(random_call, nth), PXL_E_MEM_ALLOC);
-                EXPECT_TRUE(start().equals(actual(), random_call));
+                EXPECT_EQ(run(call, nth), PXL_E_MEM_ALLOC);
+                EXPECT_TRUE(start().equals(actual(), call));
             }
         }
     }
