@@ -191,7 +191,8 @@ def table_text(members, allocators):
         params = ", ".join(param_row(p, m) for p in m.params)
         lines.append(f"const Param params_{m.name}[] = {{{params}}};")
         rows.append(f'    {{{{"{m.name}", "{m.family}", "{m.src}", "{m.dst}", "{m.layout}", "{m.mode}"}}, '
-                    f'params_{m.name}, {len(m.params)}, call_{m.name}, "{" ".join(m.targets)}", {facts_row(m.facts)}}},')
+                    f'params_{m.name}, {len(m.params)}, call_{m.name}, "{" ".join(m.targets)}", '
+                    f'{"true" if m.takes_memory else "false"}, {facts_row(m.facts)}}},')
     lines += ["", "const Member table[] = {", *rows, "};", "", "const Allocator allocatorTable[] = {",
               *[f'    {{"{n}", [](int w, int h, int* s) -> void* {{ return {n}(w, h, s); }}}},' for n in allocators],
               "};", "} // namespace", "", "std::span<const Member> members() { return table; }",

@@ -30,12 +30,15 @@
  *
  * Overlap: where the operands of a pointwise function overlap in memory, the result is that of the plain loop over each
  * row from left to right: element by element, or pixel by pixel where whole pixels are handled (masks, channel orders,
- * AC4, borders). The destination of a filter or window sum must not overlap its source, with what is read around it;
- * only members made to work in place (I) take the same region for both.
+ * AC4, borders). The destination of a filter or window sum must not overlap the source pixels that are read, those
+ * around the region included. A filter that works in place (I) takes one region: it reads the pixels around it too, writes
+ * the region alone, and gives what its out-of-place member, on one thread, gives from a copy of the image.
  *
  * Numbers: results are the same bits on every processor, given the default floating-point environment: round to
- * nearest, no exceptions trapped, no flushing of subnormal numbers to zero. Integer families compute in floating point,
- * too, so another environment in the calling thread may change any result.
+ * nearest, no exceptions trapped, no flushing of subnormal numbers to zero (FTZ, DAZ). THE CALLING THREAD MUST BE IN IT.
+ * Functions do not set it, and integer families compute in floating point, too: after fesetround PXL_ROUND_NEAR_EVEN may
+ * round in another direction, and any other result may change. A call leaves the environment as it finds it; exception
+ * flags may be raised.
  *
  * Threads: a function runs on the calling thread, unless its family says that it splits its work over a team.
  *
@@ -48,6 +51,14 @@
 #include <stdint.h>
 
 #include "pxl_linkage.h"
+
+/* ---- Version ----------------------------------------------------------------------------------------------------- */
+
+/* The release of the library that this header comes with. pxliGetLibVersion returns the record of the interface, which is
+ * the same in all releases of one MAJOR.MINOR. */
+#define PXL_VERSION_MAJOR 5
+#define PXL_VERSION_MINOR 3
+#define PXL_VERSION_PATCH 0
 
 /* ---- Types ------------------------------------------------------------------------------------------------------- */
 

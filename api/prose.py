@@ -62,6 +62,17 @@ def codes_text(families):
     return "\n".join(lines)
 
 
+def codes_of(statuses, types):
+    """The codes that members of these types may return: those behind a heading that is their type code, or all."""
+    sections, heading = {}, ""
+    for entry in statuses:
+        if entry.endswith(":"):
+            heading = entry[:-1]
+        else:
+            sections.setdefault(heading, []).append(_status(entry)[0])
+    return sections.get(types) or [code for codes in sections.values() for code in codes]
+
+
 def _status(entry):
     """An entry's code and condition."""
     code, _, condition = CHECKS.get(entry, entry).partition(" ")

@@ -6,6 +6,7 @@ import tomllib
 from dataclasses import dataclass, field
 from pathlib import Path
 
+import prose
 import vocabulary as v
 
 API = Path(__file__).parent
@@ -52,6 +53,7 @@ class Member:
     room: str = ""               # the folder of its source, and the namespace of its template
     targets: tuple = ()          # the names of the targets that it is compiled for
     facts: Facts = field(default_factory=Facts)
+    takes_memory: bool = False   # and may fail for want of it
     prototype: str = ""      # set for members that follow no pattern; they are the same on every target
 
     @property
@@ -109,6 +111,9 @@ def _families(path):
     families = []
     for entry in data["family"]:
         members = [m for form in entry["form"] for m in _members(entry, form)]
+        for m in members:
+            types = m.src if m.src == m.dst else m.src + m.dst
+            m.takes_memory = "PXL_E_MEM_ALLOC" in prose.codes_of(entry.get("statuses", []), types)
         families.append(Family(entry["name"], entry.get("title", entry["name"]), entry["file"], entry["doc"].strip(),
                                entry.get("statuses", []), members))
     return families

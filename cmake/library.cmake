@@ -1,8 +1,8 @@
 # The two libraries. Family sources are compiled once per target into namespaces of their own; everything else once.
 
-set(PXL_GENERATED ${CMAKE_BINARY_DIR}/generated)
-file(GLOB PXL_API CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/api/*)
-set(PXL_GENERATE ${Python3_EXECUTABLE} -B ${CMAKE_SOURCE_DIR}/api/generate.py)
+set(PXL_GENERATED ${PROJECT_BINARY_DIR}/generated)
+file(GLOB PXL_API CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/api/*)
+set(PXL_GENERATE ${Python3_EXECUTABLE} -B ${PROJECT_SOURCE_DIR}/api/generate.py)
 
 # What api/targets.toml lists: PXL_KNOWN_TARGETS, and for each its flags, its vectors and the sources that it is limited to.
 execute_process(COMMAND ${PXL_GENERATE} cmake ${PXL_GENERATED}/targets.cmake COMMAND_ERROR_IS_FATAL ANY)
@@ -16,7 +16,7 @@ endif()
 set(PXL_SUBSYSTEMS exchange arith filter)
 set(PXL_FAMILIES)
 foreach(subsystem IN LISTS PXL_SUBSYSTEMS)
-    file(GLOB sources CONFIGURE_DEPENDS RELATIVE ${CMAKE_SOURCE_DIR} ${subsystem}/*.cpp)
+    file(GLOB sources CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} ${subsystem}/*.cpp)
     list(APPEND PXL_FAMILIES ${sources})
 endforeach()
 
@@ -76,7 +76,7 @@ foreach(target IN LISTS PXL_TARGETS)
     list(APPEND PXL_TARGET_OBJECTS $<TARGET_OBJECTS:pxl_${target}>)
 endforeach()
 
-pxl_objects(pxl_common ${PXL_EXPORT_SOURCES} frame/memory.cpp frame/version.cpp frame/target.cpp)
+pxl_objects(pxl_common ${PXL_EXPORT_SOURCES} frame/memory.cpp frame/version.cpp frame/target.cpp frame/team.cpp)
 
 add_library(pxlcore SHARED core/pxlcore.cpp)
 target_compile_definitions(pxlcore PRIVATE PXLCORE_BUILD)
@@ -85,14 +85,15 @@ target_link_libraries(pxlcore PRIVATE pxl_flags OpenMP::OpenMP_CXX)
 
 add_library(pxlimx SHARED $<TARGET_OBJECTS:pxl_common> ${PXL_TARGET_OBJECTS})
 set_target_properties(pxlimx PROPERTIES OUTPUT_NAME pxlimx-5.3)
-target_link_libraries(pxlimx PRIVATE pxlcore OpenMP::OpenMP_CXX)
+target_link_libraries(pxlimx PUBLIC pxlcore PRIVATE OpenMP::OpenMP_CXX) # programs that set the team size need both
 add_dependencies(pxlimx pxl_generate)
 
 foreach(library pxlcore pxlimx)
+    add_library(pxlimx::${library} ALIAS ${library}) # the names that an installed package gives them
     # The run-time dependencies are the C library and OpenMP.
     set_target_properties(${library} PROPERTIES LINKER_LANGUAGE CXX)
     target_link_options(${library} PRIVATE -static-libstdc++ -static-libgcc)
-    target_include_directories(${library} INTERFACE $<BUILD_INTERFACE:${CMAKE_SOURCE_DIR}/include>
+    target_include_directories(${library} INTERFACE $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>
                                                     $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
 endforeach()
 if(WIN32)

@@ -2,8 +2,8 @@
 function(pxl_export library map)
     set_property(TARGET ${library} APPEND PROPERTY LINK_DEPENDS ${map})
     target_link_options(${library} PRIVATE -Wl,--version-script=${map} -Wl,-z,defs)
-    set_target_properties(${library} PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR} INSTALL_RPATH $ORIGIN)
+    set_target_properties(${library} PROPERTIES LIBRARY_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR} INSTALL_RPATH $ORIGIN)
 endfunction()
 
-pxl_export(pxlcore ${CMAKE_SOURCE_DIR}/core/pxlcore.map)
+pxl_export(pxlcore ${PROJECT_SOURCE_DIR}/core/pxlcore.map)
 pxl_export(pxlimx ${PXL_GENERATED}/pxlimx.map)

@@ -1,1 +1,10 @@
 include(${CMAKE_CURRENT_LIST_DIR}/pxlimx-targets.cmake)
+# The components are the two libraries, which always come together; others are refused.
+foreach(component IN LISTS pxlimx_FIND_COMPONENTS)
+    if(component STREQUAL "pxlimx" OR component STREQUAL "pxlcore")
+        set(pxlimx_${component}_FOUND TRUE)
+    elseif(pxlimx_FIND_REQUIRED_${component})
+        set(pxlimx_FOUND FALSE)
+        set(pxlimx_NOT_FOUND_MESSAGE "pxlimx has no component \"${component}\"")
+    endif()
+endforeach()

@@ -4,13 +4,32 @@
 #pragma GCC visibility pop
 
 #include <omp.h>
+#ifndef _WIN32
+#include <pthread.h>
+#endif
+
+#include <algorithm>
 
 #include "pxli.h"
 
-int32_t threads_omp_of_n_pxl = omp_get_max_threads();
+int32_t threads_omp_of_n_pxl = std::clamp(omp_get_max_threads(), 1, PXLCORE_MAX_THREADS);
+
+namespace {
+
+int32_t largestTeam = PXLCORE_MAX_THREADS;
+
+#ifndef _WIN32
+// The runtime keeps the threads of a team for the next one; in a child made by fork it would wait for threads that only the
+// parent has.
+void stayOnOneThread() { threads_omp_of_n_pxl = largestTeam = 1; }
+
+[[maybe_unused]] const int registered = pthread_atfork(nullptr, nullptr, stayOnOneThread);
+#endif
+
+} // namespace
 
 int32_t pxlcoreSetNumThreads(int32_t n) {
-    if (n < 1) return PXL_E_SIZE;
+    if (n < 1 || n > largestTeam) return PXL_E_BAD_ARG;
     threads_omp_of_n_pxl = n;
     return PXL_OK;
 }

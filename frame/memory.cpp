@@ -13,7 +13,7 @@ constexpr int64_t overhead = alignment + 8; // the farthest aligned address behi
 } // namespace
 
 void* ownMallocLarge(int64_t bytes) {
-    if (bytes < 1) return nullptr;
+    if (bytes < 1 || bytes > INT64_MAX - overhead) return nullptr;
     void* raw = std::malloc(static_cast<size_t>(bytes + overhead));
     if (!raw) return nullptr;
     const uintptr_t address = (reinterpret_cast<uintptr_t>(raw) + overhead - 1) & ~uintptr_t{alignment - 1};
@@ -40,9 +40,12 @@ void* ownMallocImageBytes(int width, int height, int pixelBytes, int* stepBytes)
     if (width < 1 || height < 1) return nullptr;
     const int64_t step = (int64_t{width} * pixelBytes + alignment - 1) & ~(alignment - 1);
     *stepBytes = static_cast<int>(step);
-    // The product is a 32-bit one by definition: it wraps, and a wrapped size below 1 is refused.
-    const uint32_t size = static_cast<uint32_t>(*stepBytes) * static_cast<uint32_t>(height);
-    return ownMalloc(static_cast<int32_t>(size));
+    // What decides is the stored step and a 32-bit product, both of which wrap. But a block that is given holds what was asked
+    // for: all rows at their true length, and none before its start.
+    const int32_t product = static_cast<int32_t>(static_cast<uint32_t>(step) * static_cast<uint32_t>(height));
+    int64_t bytes;
+    if (product < 1 || *stepBytes < 0 || __builtin_mul_overflow(step, int64_t{height}, &bytes)) return nullptr;
+    return ownMallocLarge(bytes);
 }
 
 } // namespace pxl

@@ -1,8 +1,6 @@
 // Work split over a team of OpenMP threads.
 //
-// The team size is threads_omp_of_n_pxl of the companion library, read afresh at each call; values below 1 count as 1. A
-// region opened inside a parallel region of the caller's would only compete with it, so there everything runs on the calling
-// thread. All arguments are checked and all results are written by exactly one thread, so nothing is locked.
+// All arguments are checked before and all results are written by exactly one thread, so nothing is locked.
 #pragma once
 
 #include <omp.h>
@@ -11,22 +9,16 @@
 #include <cstdint>
 
 #include "frame/memory.h"
-#include "pxlcore.h"
+#include "frame/team.h"
 #include "pxli.h"
 
 namespace pxl::PXL_TARGET {
 
-// The team that a call may open now: 1 where it must stay on its thread.
-inline int teamSize() {
-    const int32_t size = threads_omp_of_n_pxl;
-    return size < 2 || omp_in_parallel() ? 1 : size;
-}
-
 // Equal strips of rows, the remainder to the last: strip(firstRow, rows). Small regions stay whole.
 template <class Strip>
 inline void forEachStrip(ImageSize roi, const Strip& strip) {
-    const int team = teamSize();
-    if (team < 2 || roi.width < 64 || roi.height < 64) return strip(0, roi.height);
+    const int team = roi.width < 64 || roi.height < 64 ? 1 : ownTeamSize(roi.height);
+    if (team == 1) return strip(0, roi.height);
 #pragma omp parallel num_threads(team)
     {
         const int threads = omp_get_num_threads();
@@ -42,7 +34,7 @@ inline void forEachStrip(ImageSize roi, const Strip& strip) {
 // one allocation for the whole team; where it fails, nothing is run and PXL_E_MEM_ALLOC is returned.
 template <class Block>
 inline PxlStatus forEachBlock(ImageSize roi, bool worthForking, ptrdiff_t sliceBytes, const Block& block) {
-    const int team = worthForking ? teamSize() : 1;
+    const int team = worthForking ? ownTeamSize(roi.height) : 1;
     const ptrdiff_t slice = (sliceBytes + 15) & ~ptrdiff_t{15};
     char* scratch = nullptr;
     if (team == 1) {

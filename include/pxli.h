@@ -30,12 +30,15 @@
  *
  * Overlap: where the operands of a pointwise function overlap in memory, the result is that of the plain loop over each
  * row from left to right: element by element, or pixel by pixel where whole pixels are handled (masks, channel orders,
- * AC4, borders). The destination of a filter or window sum must not overlap its source, with what is read around it;
- * only members made to work in place (I) take the same region for both.
+ * AC4, borders). The destination of a filter or window sum must not overlap the source pixels that are read, those
+ * around the region included. A filter that works in place (I) takes one region: it reads the pixels around it too, writes
+ * the region alone, and gives what its out-of-place member, on one thread, gives from a copy of the image.
  *
  * Numbers: results are the same bits on every processor, given the default floating-point environment: round to
- * nearest, no exceptions trapped, no flushing of subnormal numbers to zero. Integer families compute in floating point,
- * too, so another environment in the calling thread may change any result.
+ * nearest, no exceptions trapped, no flushing of subnormal numbers to zero (FTZ, DAZ). THE CALLING THREAD MUST BE IN IT.
+ * Functions do not set it, and integer families compute in floating point, too: after fesetround PXL_ROUND_NEAR_EVEN may
+ * round in another direction, and any other result may change. A call leaves the environment as it finds it; exception
+ * flags may be raised.
  *
  * Threads: a function runs on the calling thread, unless its family says that it splits its work over a team.
  *
@@ -48,6 +51,14 @@
 #include <stdint.h>
 
 #include "pxl_linkage.h"
+
+/* ---- Version ----------------------------------------------------------------------------------------------------- */
+
+/* The release of the library that this header comes with. pxliGetLibVersion returns the record of the interface, which is
+ * the same in all releases of one MAJOR.MINOR. */
+#define PXL_VERSION_MAJOR 5
+#define PXL_VERSION_MINOR 3
+#define PXL_VERSION_PATCH 0
 
 /* ---- Types ------------------------------------------------------------------------------------------------------- */
 
@@ -194,7 +205,11 @@ const LibVersion* pxliGetLibVersion(void);
  *   stepBytes is null    nothing is written
  *   width or height < 1  *stepBytes becomes 0
  *   no memory is left    *stepBytes has the step; so too where step * height, a signed 32-bit product, wraps to less
- *                        than 1
+ *                        than 1, and where the step itself, a signed 32-bit number, wraps to a negative one
+ *
+ * An image that is returned holds height rows of the whole row length, also where step * height wraps to a positive
+ * number. Where the step itself does, from rows of 4 GiB on, *stepBytes is less than a row: rows then overlap in that
+ * memory.
  */
 uint8_t* pxliMalloc_8u_C1(int width, int height, int* stepBytes);
 uint8_t* pxliMalloc_8u_C2(int width, int height, int* stepBytes);
@@ -1918,9 +1933,9 @@ PxlStatus pxliMulC_32fc_AC4IR(const Pxl32fc value[3], Pxl32fc* srcDst, int srcDs
  * dst = src / value, with one value per channel: a number for C1, an array of 3 for C3 and AC4, of 4 for C4. AC4:
  * elements 0..2; element 3 of the destination keeps its value.
  *
- * Sfs members scale, round and saturate src * 2^-scaleFactor / value as the members of pxliDiv for the same type do;
- * scaleFactor may be any number. 32fc divides as pxliDiv. 32f multiplies by the reciprocal of the value, formed once in
- * single precision.
+ * Sfs members store the quotient times 2 to the power of minus scaleFactor: scaleFactor 1 halves it, -1 doubles it, any
+ * number is taken. src * 2^-scaleFactor / value is formed, rounded and saturated as the members of pxliDiv for the same
+ * type do. 32fc divides as pxliDiv. 32f multiplies by the reciprocal of the value, formed once in single precision.
  *
  * Statuses, in this order:
  *   PXL_E_NULL_PTR     a pointer is null
@@ -2529,19 +2544,20 @@ PxlStatus pxliRShiftC_32s_AC4IR(const uint32_t count[3], int32_t* srcDst, int sr
  *   right  anchor.x columns
  *   above  kernelSize.height - 1 - anchor.y rows
  *   below  anchor.y rows
- * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
- * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
- * at that edge of the region are not read.
+ * The anchor is the coefficient that meets the pixel itself. THE ANCHOR IS NOT CHECKED, and no kernel is too large: all
+ * that the formula names is read, wherever it lies, and must be memory of the caller's. An anchor outside the kernel
+ * puts the neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns
+ * or rows at that edge of the region are not read.
  *
  * Integer members divide the sum S by the divisor d, round to nearest with ties to even, and saturate:
  *   d = 1                 S itself
  *   d = 2, 4, 8, ...      S / d in integers
  *   other d, 8u           S in single precision times the single-precision reciprocal of d
  *   other d, 16s and 16u  S / d in double precision
- * A negative divisor is one of the others: unsigned members give 0 where S is positive. S is formed modulo 2^32; kernel
- * and image must keep it within 32 bits, sign included. 32f members sum products in single precision, one after the
- * other: rows of the neighbourhood from top to bottom, each from left to right. AC4: elements 0..2; element 3 of the
- * destination keeps its value.
+ * A negative divisor is one of the others, whatever its magnitude, and turns the sign: unsigned members give 0 where S
+ * is positive, S / d where it is negative. S is formed modulo 2^32; kernel and image must keep it within 32 bits, sign
+ * included. 32f members sum products in single precision, one after the other: rows of the neighbourhood from top to
+ * bottom, each from left to right. AC4: elements 0..2; element 3 of the destination keeps its value.
  *
  * Threads: regions of at least 64 x 64 pixels are split into strips of rows over a team of threads_omp_of_n_pxl
  * threads; the result does not depend on the team.
@@ -2596,9 +2612,10 @@ PxlStatus pxliFilter_32f_AC4R(const float* src, int srcStep, float* dst, int dst
  *   right  anchor.x columns
  *   above  kernelSize.height - 1 - anchor.y rows
  *   below  anchor.y rows
- * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
- * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
- * at that edge of the region are not read.
+ * The anchor is the coefficient that meets the pixel itself. THE ANCHOR IS NOT CHECKED, and no kernel is too large: all
+ * that the formula names is read, wherever it lies, and must be memory of the caller's. An anchor outside the kernel
+ * puts the neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns
+ * or rows at that edge of the region are not read.
  *
  * Products are summed in double precision, in the same order as those of the 32f members of pxliFilter. buffer is not
  * used and may be null.
@@ -2634,9 +2651,10 @@ PxlStatus pxliFilterGetBufSize_64f_C1R(ImageSize kernelSize, int roiWidth, int* 
  *   right  anchor.x columns
  *   above  kernelSize.height - 1 - anchor.y rows
  *   below  anchor.y rows
- * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
- * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
- * at that edge of the region are not read.
+ * The anchor is the coefficient that meets the pixel itself. THE ANCHOR IS NOT CHECKED, and no kernel is too large: all
+ * that the formula names is read, wherever it lies, and must be memory of the caller's. An anchor outside the kernel
+ * puts the neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns
+ * or rows at that edge of the region are not read.
  *
  * Products are summed in single precision, one after the other: rows of the neighbourhood from top to bottom, each from
  * left to right; the sum is rounded to nearest with ties to even and saturated, NaN gives 0. AC4: elements 0..2;
@@ -2686,15 +2704,16 @@ PxlStatus pxliFilter32f_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst
  *   right  anchor.x columns
  *   above  kernelSize.height - 1 - anchor.y rows
  *   below  anchor.y rows
- * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
- * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
- * at that edge of the region are not read.
+ * The anchor is the coefficient that meets the pixel itself. THE ANCHOR IS NOT CHECKED, and no kernel is too large: all
+ * that the formula names is read, wherever it lies, and must be memory of the caller's. An anchor outside the kernel
+ * puts the neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns
+ * or rows at that edge of the region are not read.
  *
  * The sum is formed modulo 2^32; kernel and image must keep it within 32 bits, sign included. It is multiplied, in
  * single precision, by the single-precision reciprocal of divisor, where that is not 1, and saturated and rounded by
  * roundMode: PXL_ROUND_ZERO toward zero, PXL_ROUND_NEAR_EVEN to nearest with ties to even, PXL_ROUND_HALF_AWAY to
- * nearest with ties away from zero. A negative divisor gives 0 where the sum is positive. buffer is not used and may be
- * null. AC4: elements 0..2; element 3 of the destination keeps its value.
+ * nearest with ties away from zero. A negative divisor turns the sign, so it gives 0 where the sum is positive. buffer
+ * is not used and may be null. AC4: elements 0..2; element 3 of the destination keeps its value.
  *
  * Threads: regions of at least 64 x 64 pixels are split into strips of rows over a team of threads_omp_of_n_pxl
  * threads; the result does not depend on the team.
@@ -2730,9 +2749,10 @@ PxlStatus pxliFilter_Round16s_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* 
  *   right  anchor.x columns
  *   above  kernelSize.height - 1 - anchor.y rows
  *   below  anchor.y rows
- * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
- * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
- * at that edge of the region are not read.
+ * The anchor is the coefficient that meets the pixel itself. THE ANCHOR IS NOT CHECKED, and no kernel is too large: all
+ * that the formula names is read, wherever it lies, and must be memory of the caller's. An anchor outside the kernel
+ * puts the neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns
+ * or rows at that edge of the region are not read.
  *
  * The sum is formed modulo 2^32; kernel and image must keep it within 32 bits, sign included. It is divided by divisor
  * in double precision, saturated and rounded by roundMode: PXL_ROUND_ZERO toward zero, PXL_ROUND_NEAR_EVEN to nearest
@@ -2786,9 +2806,10 @@ PxlStatus pxliFilter_Round32s_16u_AC4R(const uint16_t* src, int srcStep, uint16_
  *   right  anchor.x columns
  *   above  kernelSize.height - 1 - anchor.y rows
  *   below  anchor.y rows
- * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
- * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
- * at that edge of the region are not read.
+ * The anchor is the coefficient that meets the pixel itself. THE ANCHOR IS NOT CHECKED, and no kernel is too large: all
+ * that the formula names is read, wherever it lies, and must be memory of the caller's. An anchor outside the kernel
+ * puts the neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns
+ * or rows at that edge of the region are not read.
  *
  * Products are formed in single precision and summed in double precision, in the order of pxliFilter32f; the sum is
  * rounded to single precision, saturated and rounded by roundMode: PXL_ROUND_ZERO toward zero, PXL_ROUND_NEAR_EVEN to
@@ -2837,18 +2858,20 @@ PxlStatus pxliFilter_Round32f_16u_AC4R(const uint16_t* src, int srcStep, uint16_
  * convolution, which mirrors the kernel: K[0] meets the rightmost pixel. Beside the region at src are read
  *   left   kernelSize - 1 - xAnchor columns
  *   right  xAnchor columns
- * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
- * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
- * at that edge of the region are not read.
+ * The anchor is the coefficient that meets the pixel itself. THE ANCHOR IS NOT CHECKED, and no kernel is too large: all
+ * that the formula names is read, wherever it lies, and must be memory of the caller's. An anchor outside the kernel
+ * puts the neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns
+ * or rows at that edge of the region are not read.
  *
  * Integer members divide the sum S by the divisor d, round to nearest with ties to even, and saturate:
  *   d = 1                 S itself
  *   d = 2, 4, 8, ...      S / d in integers
  *   other d, 8u           S in single precision times the single-precision reciprocal of d
  *   other d, 16s and 16u  S / d in double precision
- * A negative divisor is one of the others: unsigned members give 0 where S is positive. S is formed modulo 2^32; kernel
- * and image must keep it within 32 bits, sign included. 32f members sum products in single precision, one after the
- * other from left to right. AC4: elements 0..2; element 3 of the destination keeps its value.
+ * A negative divisor is one of the others, whatever its magnitude, and turns the sign: unsigned members give 0 where S
+ * is positive, S / d where it is negative. S is formed modulo 2^32; kernel and image must keep it within 32 bits, sign
+ * included. 32f members sum products in single precision, one after the other from left to right. AC4: elements 0..2;
+ * element 3 of the destination keeps its value.
  *
  * Threads: regions of at least 64 x 64 pixels are split into strips of rows over a team of threads_omp_of_n_pxl
  * threads; the result does not depend on the team.
@@ -2899,9 +2922,10 @@ PxlStatus pxliFilterRow_32f_AC4R(const float* src, int srcStep, float* dst, int 
  * convolution, which mirrors the kernel: K[0] meets the rightmost pixel. Beside the region at src are read
  *   left   kernelSize - 1 - xAnchor columns
  *   right  xAnchor columns
- * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
- * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
- * at that edge of the region are not read.
+ * The anchor is the coefficient that meets the pixel itself. THE ANCHOR IS NOT CHECKED, and no kernel is too large: all
+ * that the formula names is read, wherever it lies, and must be memory of the caller's. An anchor outside the kernel
+ * puts the neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns
+ * or rows at that edge of the region are not read.
  *
  * Products are summed in single precision, one after the other from left to right; the sum is rounded to nearest with
  * ties to even and saturated, NaN gives 0. AC4: elements 0..2; element 3 of the destination keeps its value.
@@ -2946,18 +2970,20 @@ PxlStatus pxliFilterRow32f_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* 
  * convolution, which mirrors the kernel: K[0] meets the lowest pixel. Above and below the region at src are read
  *   above  kernelSize - 1 - yAnchor rows
  *   below  yAnchor rows
- * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
- * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
- * at that edge of the region are not read.
+ * The anchor is the coefficient that meets the pixel itself. THE ANCHOR IS NOT CHECKED, and no kernel is too large: all
+ * that the formula names is read, wherever it lies, and must be memory of the caller's. An anchor outside the kernel
+ * puts the neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns
+ * or rows at that edge of the region are not read.
  *
  * Integer members divide the sum S by the divisor d, round to nearest with ties to even, and saturate:
  *   d = 1                 S itself
  *   d = 2, 4, 8, ...      S / d in integers
  *   other d, 8u           S in single precision times the single-precision reciprocal of d
  *   other d, 16s and 16u  S / d in double precision
- * A negative divisor is one of the others: unsigned members give 0 where S is positive. S is formed modulo 2^32; kernel
- * and image must keep it within 32 bits, sign included. 32f members sum products in single precision, one after the
- * other from top to bottom. AC4: elements 0..2; element 3 of the destination keeps its value.
+ * A negative divisor is one of the others, whatever its magnitude, and turns the sign: unsigned members give 0 where S
+ * is positive, S / d where it is negative. S is formed modulo 2^32; kernel and image must keep it within 32 bits, sign
+ * included. 32f members sum products in single precision, one after the other from top to bottom. AC4: elements 0..2;
+ * element 3 of the destination keeps its value.
  *
  * Threads: regions of at least 64 x 64 pixels are split into strips of rows over a team of threads_omp_of_n_pxl
  * threads; the result does not depend on the team.
@@ -3008,9 +3034,10 @@ PxlStatus pxliFilterColumn_32f_AC4R(const float* src, int srcStep, float* dst, i
  * convolution, which mirrors the kernel: K[0] meets the lowest pixel. Above and below the region at src are read
  *   above  kernelSize - 1 - yAnchor rows
  *   below  yAnchor rows
- * The anchor, the coefficient that meets the pixel itself, is not checked. One outside the kernel puts the
- * neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns or rows
- * at that edge of the region are not read.
+ * The anchor is the coefficient that meets the pixel itself. THE ANCHOR IS NOT CHECKED, and no kernel is too large: all
+ * that the formula names is read, wherever it lies, and must be memory of the caller's. An anchor outside the kernel
+ * puts the neighbourhood beside the pixel, by the same formula; a negative number above then means that so many columns
+ * or rows at that edge of the region are not read.
  *
  * Products are summed in single precision, one after the other from top to bottom; the sum is rounded to nearest with
  * ties to even and saturated, NaN gives 0. AC4: elements 0..2; element 3 of the destination keeps its value.
@@ -3159,8 +3186,9 @@ PxlStatus pxliFilterBox_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSi
  *
  * Running sums in single precision: each channel starts a row with the samples of its first window, added one by one
  * from left to right, and goes on by adding the difference of the sample that enters and the one that leaves. Steps are
- * not checked; those of 16-bit sources and of the destination count whole elements, rounded down. Empty regions: 16u
- * members refuse them; 8u and 16s members return PXL_OK and write nothing.
+ * not checked; those of 16-bit sources and of the destination count whole elements, rounded down. An empty region, of a
+ * width or height < 1, is refused by 16u members with PXL_E_SIZE; 8u and 16s members return PXL_OK for it and write
+ * nothing.
  *
  * Statuses of 16u members, in this order:
  *   PXL_E_NULL_PTR   a pointer is null
@@ -3201,9 +3229,9 @@ PxlStatus pxliSumWindowRow_16u32f_C4R(const uint16_t* src, int srcStep, float* d
  *
  * Running sums in single precision: each channel starts a column with the samples of its first window, added one by one
  * from top to bottom, and goes on by adding the difference of the sample that enters and the one that leaves. Steps are
- * not checked; those of 16-bit sources and of the destination count whole elements, rounded down. Empty regions: 16u
- * members and 16s_C3R refuse them; the others return PXL_OK for a height < 1, and else, for a width < 1,
- * PXL_E_MEM_ALLOC, both without writing. Scratch: one row of sums.
+ * not checked; those of 16-bit sources and of the destination count whole elements, rounded down. An empty region is
+ * refused by 16u members and 16s_C3R with PXL_E_SIZE; the others return PXL_OK for a height < 1, and else, for a width
+ * < 1, PXL_E_MEM_ALLOC, without writing. Scratch: one row of sums.
  *
  * Statuses of 16u members, in this order:
  *   PXL_E_NULL_PTR   a pointer is null

@@ -8,9 +8,10 @@
 #include <memory>
 #include <string>
 
+#include "every_member.h"
 #include "frame/target.h"
 #include "generic/call.h"
-#include "generic/guarded.h"
+#include "generic/memories.h"
 #include "pxlcore.h"
 #include "pxli.h"
 #include "targets.h"
@@ -18,25 +19,11 @@
 namespace {
 
 using generic::Call;
-using generic::Guarded;
 using generic::Member;
+using generic::Memories;
 using generic::Random;
 
-// One set of memories per runner of a call.
-class Memories {
-public:
-    uint8_t* at(int i) const { return sets_[i].begin(); }
-    std::vector<uint8_t*> pointers() const {
-        std::vector<uint8_t*> all;
-        for (const Guarded& g : sets_) all.push_back(g.begin());
-        return all;
-    }
-
-private:
-    Guarded sets_[Call::maxMemories];
-};
-
-class Differential : public testing::TestWithParam<Member> {
+class Differential : public EveryMember {
 protected:
     static Memories& start() { return sharedMemories(0); }    // what the memories hold before the call
     static Memories& expected() { return sharedMemories(1); } // after the reference
@@ -50,26 +37,20 @@ private:
         static Memories all[3];
         return all[which];
     }
-    static void copy(const Memories& from, const Memories& to, const Call& call) {
-        for (int i = 0; i < call.memories; ++i) {
-            const generic::Reach window = call.window(i);
-            std::memcpy(to.at(i) + window.low, from.at(i) + window.low, static_cast<size_t>(window.length()));
-        }
-    }
     void expectSameBytes(const Call& call);
 };
 
 int32_t Differential::compare(const Call& call, Random& random) {
     EXPECT_LE(call.memories, Call::maxMemories);
     for (int i = 0; i < call.memories; ++i) fillMemory(call, i, start().at(i), random);
-    copy(start(), expected(), call);
+    start().copyTo(expected(), call);
     static constexpr int teams[] = {1, 2, 3, 8};
     threads_omp_of_n_pxl = reference::team = teams[generic::between(random, 0, 3)];
     const int32_t status = reference::find(call.member->family)(*call.member, call.bind(expected().pointers()).data());
     for (const pxl::KnownTarget& target : availableTargets(*call.member)) {
         const TargetScope scope(target);
         SCOPED_TRACE(testing::Message() << target.name << ", team " << reference::team << ": " << call.describe());
-        copy(start(), actual(), call);
+        start().copyTo(actual(), call);
         EXPECT_EQ(call.member->call(call.bind(actual().pointers()).data()), status);
         expectSameBytes(call);
         if (HasFailure()) break;
@@ -156,13 +137,6 @@ TEST_P(Differential, EveryPairOfBrokenArguments) {
             for (int variant = 0; variant < 3; ++variant) compare(brokenCall(member, random, first, second), random);
 }
 
-std::string memberName(const testing::TestParamInfo<Member>& info) { return std::string(info.param.name); }
-
-INSTANTIATE_TEST_SUITE_P(, Differential, testing::ValuesIn(generic::members()), memberName);
+INSTANTIATE_TEST_SUITE_P(, Differential, testing::ValuesIn(generic::members()), EveryMember::name);
 
 } // namespace
-
-// Printed by the test runner as the value of the parameter.
-namespace generic {
-void PrintTo(const Member& member, std::ostream* out) { *out << member.name; }
-} // namespace generic

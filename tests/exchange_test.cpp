@@ -6,7 +6,6 @@
 #include <cstring>
 #include <vector>
 
-#include "failing_malloc.h"
 #include "pxli.h"
 #include "targets.h"
 
@@ -15,18 +14,6 @@ namespace {
 class EveryTarget : public testing::TestWithParam<pxl::KnownTarget> {
     TargetScope scope_{GetParam()};
 };
-
-TEST_P(EveryTarget, DitheringWithoutMemoryWritesNothing) {
-    const std::vector<uint8_t> src(64, 200);
-    std::vector<uint8_t> dst(8, 0x5A);
-    PxlStatus status;
-    {
-        const FailingMalloc fail(1);
-        status = pxliConvert_8u1u_C1R(src.data(), 8, dst.data(), 1, 0, {8, 8}, 128);
-    }
-    EXPECT_EQ(status, PXL_E_MEM_ALLOC);
-    EXPECT_EQ(dst, std::vector<uint8_t>(8, 0x5A));
-}
 
 // Half of the bits of a middle gray are ones: the error is carried, not lost.
 TEST_P(EveryTarget, DitheringKeepsTheMean) {

@@ -1,20 +1,34 @@
 #include "failing_malloc.h"
 
 #include <atomic>
+#include <cstddef>
 
 namespace {
-std::atomic<int> callsUntilFailure = -1; // -1: never. For all threads: a team member may be the one that allocates.
-}
+// For all threads: a team member may be the one that allocates.
+std::atomic<int> mallocCalls, failingCall, liveBlocks;
+} // namespace
 
 extern "C" {
 void* __real_malloc(size_t size);
+void __real_free(void* block);
+
 void* __wrap_malloc(size_t size) {
-    int left = callsUntilFailure.load();
-    while (left > 0 && !callsUntilFailure.compare_exchange_weak(left, left - 1)) {
-    }
-    return left == 0 || left == 1 ? nullptr : __real_malloc(size);
+    void* block = ++mallocCalls == failingCall ? nullptr : __real_malloc(size);
+    if (block) ++liveBlocks;
+    return block;
+}
+
+void __wrap_free(void* block) {
+    if (block) --liveBlocks;
+    __real_free(block);
 }
 }
 
-FailingMalloc::FailingMalloc(int nth) { callsUntilFailure = nth; }
-FailingMalloc::~FailingMalloc() { callsUntilFailure = -1; }
+FailingMalloc::FailingMalloc(int nth) {
+    mallocCalls = liveBlocks = 0;
+    failingCall = nth;
+}
+FailingMalloc::~FailingMalloc() { failingCall = 0; }
+
+int FailingMalloc::calls() const { return mallocCalls; }
+int FailingMalloc::unreleased() const { return liveBlocks; }

@@ -1,13 +1,15 @@
-// Makes malloc fail: the tests are linked with --wrap=malloc, so every allocation of the library passes here.
+// Watches the library's memory and makes malloc fail: the tests are linked with --wrap for malloc and free, so every allocation of
+// the library passes here.
 #pragma once
 
-#include <cstddef>
-
-// While it lives, the nth call of malloc (1: the next one) and all after it return null.
+// While it lives, calls of malloc are counted, in all threads, and the nth of them (1: the next one; 0: none) returns null.
 class FailingMalloc {
 public:
-    explicit FailingMalloc(int nth);
+    explicit FailingMalloc(int nth = 0);
     ~FailingMalloc();
     FailingMalloc(const FailingMalloc&) = delete;
     FailingMalloc& operator=(const FailingMalloc&) = delete;
+
+    int calls() const;
+    int unreleased() const; // blocks that were allocated since, less those that were released
 };

@@ -18,6 +18,8 @@ TEST(Version, IsOneConstantRecord) {
     EXPECT_EQ(v, pxliGetLibVersion());
     EXPECT_EQ(v->major, 5);
     EXPECT_EQ(v->minor, 3);
+    EXPECT_EQ(v->major, PXL_VERSION_MAJOR);
+    EXPECT_EQ(v->minor, PXL_VERSION_MINOR);
     EXPECT_EQ(v->buildMajor, 85);
     EXPECT_EQ(v->buildNumber, 496);
     EXPECT_EQ(std::memcmp(v->cpuCode, "mx\0\0", 4), 0);
@@ -71,6 +73,36 @@ TEST(ImageMemory, SizesThatWrap) {
     EXPECT_EQ(step, -32);
 }
 
+// Sizes that wrap to a positive number give all that was asked for, or nothing.
+TEST(ImageMemory, WrappedSizesAreNotTooSmall) {
+    int step = 0;
+    if (uint8_t* image = pxliMalloc_8u_C1(65536, 65537, &step)) {
+        for (ptrdiff_t y = 0; y < 65537; y += 256) // few enough pages, up to the very last byte
+            image[y * step] = image[y * step + 65535] = 1;
+        pxliFree(image);
+    }
+    EXPECT_EQ(step, 65536);
+    if (Pxl32fc* row = pxliMalloc_32fc_C4(0x08000001, 1, &step)) {
+        row[size_t{0x08000001} * 4 - 1] = {1, 2};
+        pxliFree(row);
+    }
+    EXPECT_EQ(step, 32); // of 2^32 + 32
+}
+
+TEST(ImageMemory, SizesBeyond64Bits) {
+    int step = 0;
+    EXPECT_EQ(pxliMalloc_32fc_C4(0x78000001, 0x40000001, &step), nullptr);
+    EXPECT_EQ(step, 32);
+    EXPECT_EQ(pxl::ownMallocLarge(INT64_MAX), nullptr);
+}
+
+// 3 rows of 3 GiB: the 32-bit product is positive, but the stored step would lead out of any block.
+TEST(ImageMemory, NoRowsBeforeTheBlock) {
+    int step = 0;
+    EXPECT_EQ(pxliMalloc_32fc_C4(0x06000000, 3, &step), nullptr);
+    EXPECT_EQ(step, -0x40000000);
+}
+
 TEST(ImageMemory, NoMemoryLeavesTheStep) {
     int step = 0;
     const FailingMalloc fail(1);
@@ -103,9 +135,13 @@ TEST(Core, TeamSizeAndTexts) {
     EXPECT_GE(before, 1);
     EXPECT_EQ(pxlcoreSetNumThreads(3), PXL_OK);
     EXPECT_EQ(threads_omp_of_n_pxl, 3);
-    EXPECT_EQ(pxlcoreSetNumThreads(0), PXL_E_SIZE);
-    EXPECT_EQ(pxlcoreGetNumThreads(), 3);
-    pxlcoreSetNumThreads(before);
+    for (const int refused : {0, -1, INT32_MIN, PXLCORE_MAX_THREADS + 1, INT32_MAX}) {
+        EXPECT_EQ(pxlcoreSetNumThreads(refused), PXL_E_BAD_ARG);
+        EXPECT_EQ(pxlcoreGetNumThreads(), 3);
+    }
+    EXPECT_EQ(pxlcoreSetNumThreads(PXLCORE_MAX_THREADS), PXL_OK);
+    EXPECT_EQ(pxlcoreGetNumThreads(), 1024);
+    EXPECT_EQ(pxlcoreSetNumThreads(before), PXL_OK);
     EXPECT_STREQ(pxlcoreGetStatusText(PXL_OK), "success");
     EXPECT_STRNE(pxlcoreGetStatusText(PXL_E_CHANNEL_ORDER), pxlcoreGetStatusText(-77777));
     EXPECT_STREQ(pxlcoreGetStatusText(1080), "unknown warning");

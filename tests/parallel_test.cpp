@@ -1,6 +1,10 @@
 // Parallel execution: the same result for every team, from inside the caller's own regions and from many threads at once.
 #include <gtest/gtest.h>
 #include <omp.h>
+#ifndef _WIN32
+#include <sys/wait.h>
+#include <unistd.h>
+#endif
 
 #include <cmath>
 #include <cstdint>
@@ -10,7 +14,7 @@
 #include <thread>
 #include <vector>
 
-#include "failing_malloc.h"
+#include "frame/team.h"
 #include "pxlcore.h"
 #include "pxli.h"
 #include "targets.h"
@@ -120,6 +124,53 @@ TEST(Parallel, EveryTeamGivesTheSameBytes) {
     }
 }
 
+// Written to the variable itself: the library makes of it what it can use.
+TEST(Parallel, AbsurdTeams) {
+    for (const int team : {50'000, 100'000, INT32_MAX}) {
+        const TeamScope of(team);
+        EXPECT_EQ(pxl::ownTeamSize(1), 1);
+        EXPECT_EQ(pxl::ownTeamSize(70), 70);
+        EXPECT_EQ(pxl::ownTeamSize(1'000'000), PXLCORE_MAX_THREADS);
+    }
+    for (const int team : {0, -1, INT32_MIN}) {
+        const TeamScope of(team);
+        EXPECT_EQ(pxl::ownTeamSize(1'000'000), 1);
+    }
+    for (const auto& [name, call] : exactRuns) {
+        SCOPED_TRACE(name);
+        const auto expected = call({66, 64}, 7);
+        for (const int team : {50'000, 100'000, INT32_MAX}) {
+            const TeamScope of(team);
+            EXPECT_TRUE(call({66, 64}, 7) == expected);
+        }
+    }
+}
+
+#ifndef _WIN32
+// The runtime's threads are not in a child: a team of several would wait for them for ever.
+TEST(Parallel, InAForkedChild) {
+    const auto& call = exactRuns[0].second;
+    const TeamScope two(2);
+    const auto expected = call({100, 80}, 5);
+    const pid_t child = fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        alarm(30); // ends a child that hangs
+        const bool same = call({100, 80}, 5) == expected;
+        const bool one = pxlcoreGetNumThreads() == 1 && threads_omp_of_n_pxl == 1;
+        const bool refused = pxlcoreSetNumThreads(2) == PXL_E_BAD_ARG && pxlcoreSetNumThreads(0) == PXL_E_BAD_ARG;
+        const bool accepted = pxlcoreSetNumThreads(1) == PXL_OK && threads_omp_of_n_pxl == 1;
+        _exit(same << 0 | one << 1 | refused << 2 | accepted << 3);
+    }
+    int ended = 0;
+    ASSERT_EQ(waitpid(child, &ended, 0), child);
+    EXPECT_TRUE(WIFEXITED(ended)) << "ended by signal " << WTERMSIG(ended);
+    EXPECT_EQ(WEXITSTATUS(ended), 15);
+    EXPECT_EQ(threads_omp_of_n_pxl, 2);
+    EXPECT_TRUE(call({100, 80}, 5) == expected);
+}
+#endif
+
 TEST(Parallel, InsideARegionOfTheCallers) {
     const auto& call = exactRuns[0].second;
     const TeamScope two(2);
@@ -155,44 +206,6 @@ TEST(Parallel, ManyCallersAtOnce) {
         });
     for (std::thread& caller : callers) caller.join();
     EXPECT_EQ(wrong, std::vector<int>(wrong.size(), 0));
-}
-
-// No scratch memory: -9, and everything as it was, whichever allocation of the call fails.
-template <class Call>
-void expectNoMemory(Call call) {
-    PxlStatus status = PXL_E_MEM_ALLOC;
-    for (int nth = 1; status != PXL_OK; ++nth) {
-        Picture<uint8_t> src({80, 60}, 1, 9), dst({80, 60}, 1, 10);
-        const auto before = dst.data, sourceBefore = src.data;
-        {
-            const FailingMalloc fail(nth);
-            status = call(src, dst);
-        }
-        if (nth > 1 && status == PXL_OK) break; // the call makes fewer allocations
-        EXPECT_EQ(status, PXL_E_MEM_ALLOC) << "allocation " << nth;
-        EXPECT_TRUE(dst.data == before);
-        EXPECT_TRUE(src.data == sourceBefore);
-    }
-}
-
-TEST(NoMemory, BoxFiltersAndSums) {
-    for (const int team : {1, 2}) {
-        const TeamScope of(team);
-        expectNoMemory([](auto& s, auto& d) {
-            return pxliFilterBox_8u_C1R(s.origin(), s.step, d.origin(), d.step, {80, 60}, {5, 5}, {2, 2});
-        });
-    }
-    for (const ImageSize size : {ImageSize{80, 60}, ImageSize{80, 4}}) // in the ring, and from a copy
-        expectNoMemory([=](auto& s, auto&) { return pxliFilterBox_8u_C1IR(s.origin(), s.step, size, {5, 5}, {2, 2}); });
-    Picture<uint8_t> src({80, 60}, 1, 9);
-    std::vector<float> sums(80 * 60, 1.0f);
-    PxlStatus status;
-    {
-        const FailingMalloc fail(1);
-        status = pxliSumWindowColumn_8u32f_C1R(src.origin(), src.step, sums.data(), 320, {80, 60}, 5, 2);
-    }
-    EXPECT_EQ(status, PXL_E_MEM_ALLOC);
-    EXPECT_EQ(sums, std::vector<float>(80 * 60, 1.0f));
 }
 
 } // namespace

@@ -17,7 +17,8 @@ int main(void) {
     if (memcmp(dst + 10 * dstStep + 36 * 3, colour, 3) != 0) return 4;
     const PxlStatus refused = pxliCopy_8u_C3R(src, srcStep, NULL, dstStep, size);
     if (refused != PXL_E_NULL_PTR) return 5;
-    if (pxlcoreGetNumThreads() != threads_omp_of_n_pxl) return 6;
+    if (pxlcoreSetNumThreads(2) != PXL_OK || pxlcoreGetNumThreads() != 2 || threads_omp_of_n_pxl != 2) return 6;
+    if (pxliGetLibVersion()->major != PXL_VERSION_MAJOR || pxliGetLibVersion()->minor != PXL_VERSION_MINOR) return 7;
     printf("%s: %s\n", pxliGetLibVersion()->libraryName, pxlcoreGetStatusText(refused));
     pxliFree(src);
     pxliFree(dst);

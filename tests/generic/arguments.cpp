@@ -46,8 +46,12 @@ float tameReal(Random& random) {
 int64_t randomInteger(Random& random, int bits) {
     const int64_t kind = between(random, 1, 100);
     if (kind <= 30) return between(random, -5, 5);
-    if (kind <= 40) return (int64_t{1} << between(random, 0, bits - 1)) + between(random, -1, 1);
-    if (kind <= 50) return -(int64_t{1} << (bits - 1)) + between(random, -1, 1);
+    // Of 64 bits, what lies beside the ends of the range is the other end.
+    const auto beside = [&](uint64_t end) {
+        return static_cast<int64_t>(end + static_cast<uint64_t>(between(random, -1, 1)));
+    };
+    if (kind <= 40) return beside(uint64_t{1} << between(random, 0, bits - 1));
+    if (kind <= 50) return beside(-(uint64_t{1} << (bits - 1)));
     return static_cast<int64_t>(random());
 }
 

@@ -125,6 +125,7 @@ struct Member : reference::Member {
     int count;
     int32_t (*call)(const reference::Arg*);
     std::string_view targets; // the names of those that it is compiled for, with spaces between
+    bool takesMemory;         // and may fail for want of it
     Facts facts;
 
     std::span<const Param> parameters() const { return {params, static_cast<size_t>(count)}; }

@@ -11,12 +11,26 @@ mv "$work/first" "$work/moved"
 prefix=$work/moved
 package=$(find "$prefix" -name pxlimx.pc)
 
-cmake -G Ninja -S "$source/tests/consumer" -B "$work/cmake" ${toolchain:+--toolchain "$toolchain"} \
-    -Dpxlimx_DIR="$(dirname "$(find "$prefix" -name pxlimx-config.cmake)")" >/dev/null
+cmp "$source/LICENSE" "$prefix/share/doc/pxlimx/LICENSE"
+if [ -n "$runner" ]; then
+    diff -r "$source/cmake/notices" "$prefix/share/doc/pxlimx/notices" # of the DLLs that are not ours
+fi
+
+find_components() { # find_components DIRECTORY [COMPONENT]: configures the consumer
+    cmake -G Ninja -S "$source/tests/consumer" -B "$1" ${toolchain:+--toolchain "$toolchain"} \
+        -Dpxlimx_DIR="$(dirname "$(find "$prefix" -name pxlimx-config.cmake)")" -DPXLIMX_COMPONENTS="${2:-}"
+}
+if find_components "$work/unknown" nothing >"$work/log" 2>&1; then
+    echo "a component that does not exist was found" && exit 1
+fi
+grep -q 'no component "nothing"' "$work/log"
+find_components "$work/cmake" pxlcore >/dev/null
 cmake --build "$work/cmake" >/dev/null
 
 mkdir "$work/pkg-config"
 export PKG_CONFIG_LIBDIR=${package%/*}
+release=$(sed -n 's/^#define PXL_VERSION_[A-Z]* //p' "$prefix/include/pxli.h" | paste -sd.)
+[ "$(pkg-config --modversion pxlimx)" = "$release" ]
 # shellcheck disable=SC2046
 "$cc" -std=c99 -Wall -Wextra -Werror "$source/tests/consumer/consumer.c" $(pkg-config --cflags --libs pxlimx) \
     -o "$work/pkg-config/consumer"
