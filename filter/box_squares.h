@@ -4,6 +4,9 @@
 // samples that enter and subtracts those that leave. Transposed, a vector holds one column of all rows, and the sums of the
 // windows run along with every row in a lane of its own: floats thus follow the same chain of additions row by row, on every
 // target. Results are transposed back where they are stored.
+//
+// Column sums of floats begin anew at rows that the region and the mask tell, and no thread: one that takes over between
+// two of them goes through the additions since the first.
 #pragma once
 
 #include "filter/box_means.h"
@@ -14,6 +17,15 @@
 namespace pxl::PXL_TARGET::filter {
 
 using window::byBytes;
+
+// The rows where column sums of floats begin anew are multiples of this: up to a power of two of blocks, which teams share
+// well, of at least four masks, so that the sums from scratch cost little beside the rest.
+inline ptrdiff_t restartDistance(int height, int maskHeight) {
+    const ptrdiff_t least = maskHeight > 8 ? 4 * ptrdiff_t{maskHeight} : 32;
+    ptrdiff_t blocks = 1;
+    while (2 * blocks * least <= height) blocks *= 2;
+    return (height + 8 * blocks - 1) / (8 * blocks) * 8;
+}
 
 // Column sums in lanes of type Sum: modulo 2^16 or 2^32, or floats.
 template <class T, class Sum>
@@ -31,15 +43,18 @@ public:
         return (tableColumns * side + w.columns + side) * static_cast<ptrdiff_t>(sizeof(Sum));
     }
 
-    // Gets scratch memory, and the column sums of row y.
-    void start(void* scratch, ptrdiff_t y) {
+    void place(void* scratch) {
         columnsOfRows = static_cast<Sum*>(scratch);
         columnSums = columnsOfRows + tableColumns * side;
         for (ptrdiff_t x = w.columns; x < tableColumns; ++x) StoreU(Zero<Sum>(), columnsOfRows + x * side);
+    }
+
+    // Makes the column sums of row `from`, and of those the ones of row y.
+    void start(ptrdiff_t from, ptrdiff_t y) {
         ptrdiff_t x = 0;
-        for (; x + 4 * side <= w.columns; x += 4 * side) sumColumns<4>(y, x);
-        for (; x + side <= w.columns; x += side) sumColumns<1>(y, x);
-        if (x < w.columns) sumColumns<1>(y, lastSquare());
+        for (; x + 4 * side <= w.columns; x += 4 * side) sumColumns<4>(from, y, x);
+        for (; x + side <= w.columns; x += side) sumColumns<1>(from, y, x);
+        if (x < w.columns) sumColumns<1>(from, y, lastSquare());
     }
 
     // Begins a group of rows from y on, of which the first `count` are followed by another.
@@ -114,12 +129,16 @@ private:
     }
 
     template <int Vectors>
-    void sumColumns(ptrdiff_t y, ptrdiff_t x) {
+    void sumColumns(ptrdiff_t from, ptrdiff_t y, ptrdiff_t x) {
+        const auto load = [this](const T* p, int v) { return Vectors > 1 ? samples(p + v * side) : fewSamples(p); };
         Vec<Sum> sum[Vectors];
         for (auto& s : sum) s = Set<Sum>(static_cast<Sum>(boxBias<T> * static_cast<uint32_t>(w.height)));
-        const T* p = w.row(y) + x;
+        const T* leaving = w.row(from) + x;
+        const T* p = leaving;
         for (int j = 0; j < w.height; ++j, p = byBytes(p, w.step))
-            for (int v = 0; v < Vectors; ++v) sum[v] = sum[v] + (Vectors > 1 ? samples(p + v * side) : fewSamples(p));
+            for (int v = 0; v < Vectors; ++v) sum[v] = sum[v] + load(p, v);
+        for (; from < y; ++from, p = byBytes(p, w.step), leaving = byBytes(leaving, w.step))
+            for (int v = 0; v < Vectors; ++v) sum[v] = sum[v] + (load(p, v) - load(leaving, v));
         for (int v = 0; v < Vectors; ++v) StoreU(sum[v], columnSums + x + v * side);
     }
 
@@ -132,8 +151,9 @@ private:
     Vec<Sum> lastSums{}; // column sums of the last square as the group began
 };
 
-// The filter with the means of one type and mask: a worker (window/workers.h), which withWorker of box.cpp chooses.
-template <class T, int Elements, class Mean>
+// The filter with the means of one type and mask: a worker (window/workers.h), which withWorker of box.cpp chooses. Sums of
+// windows are vectors of the sums of columns, or WideSums.
+template <class T, int Elements, class Mean, class WindowSum = Vec<typename Mean::Sum>>
 class BoxSquares {
 public:
     using Sum = typename Mean::Sum;
@@ -141,16 +161,32 @@ public:
     static constexpr int groupRows = side;
 
     BoxSquares(const window::Windows<T>& windows, const Mean& mean)
-        : meanOf(mean), columns(windows, windows.width * Elements) {}
+        : distance(restarts ? restartDistance(windows.region.height, windows.height) : 0), meanOf(mean),
+          columns(windows, windows.width * Elements) {}
 
     ptrdiff_t scratchBytes() const { return columns.scratchBytes(); }
-    void start(char* scratch, ptrdiff_t y) { columns.start(scratch, y); }
+
+    // A few rows more for the thread above cost less than the additions of a whole block.
+    ptrdiff_t startNear(ptrdiff_t y) const {
+        if (!restarts || y % distance == 0) return y;
+        const ptrdiff_t below = distance - y % distance;
+        return below <= distance / 8 ? y + below : y;
+    }
+
+    void start(char* scratch, ptrdiff_t y) {
+        columns.place(scratch);
+        if (!restarts)
+            columns.start(y, y);
+        else if (y % distance != 0)
+            columns.start(y - y % distance, y);
+    }
 
     [[gnu::noinline]] void group(ptrdiff_t y, int rows, bool last, const window::Destination<T>& dst) {
         const ptrdiff_t reach = columns.w.width * Elements, outputs = columns.w.outputs;
+        if (restarts && y % distance == 0) columns.start(y, y);
         columns.startGroup(y, last ? rows - 1 : rows);
         columns.makeReady(strip + reach);
-        Vec<Sum> sum[Elements];
+        WindowSum sum[Elements];
         firstWindow(sum);
         for (ptrdiff_t x = 0; x < outputs; x += strip) {
             const ptrdiff_t n = outputs - x < strip ? outputs - x : strip;
@@ -164,6 +200,7 @@ public:
     }
 
 private:
+    static constexpr bool restarts = std::is_same_v<T, float>;
     static constexpr ptrdiff_t bytes = sizeof(T);
     static constexpr ptrdiff_t strip = 8 * side; // as far as one pass goes: its columns stay in the first-level cache
 
@@ -173,16 +210,17 @@ private:
         return dst.keepsAlpha || (side > 8 && dst.step % 4096 == 0);
     }
 
-    void firstWindow(Vec<Sum> (&sum)[Elements]) const {
+    void firstWindow(WindowSum (&sum)[Elements]) const {
         const Sum* p = columns.table(0);
-        for (auto& s : sum) s = LoadU(p), p += side;
+        for (auto& s : sum) s = WindowSum(LoadU(p)), p += side;
         for (ptrdiff_t i = 1; i < columns.w.width; ++i)
             for (auto& s : sum) s = s + LoadU(p), p += side;
     }
 
     // The means of n windows from x on, in whole squares; leaves the sums of the windows behind them.
-    void meansAlong(ptrdiff_t x, ptrdiff_t n, Vec<Sum> (&sums)[Elements], T* results, ptrdiff_t step) const {
-        Vec<Sum> sum[Elements], mean[side];
+    void meansAlong(ptrdiff_t x, ptrdiff_t n, WindowSum (&sums)[Elements], T* results, ptrdiff_t step) const {
+        WindowSum sum[Elements];
+        Vec<Sum> mean[side];
         for (int c = 0; c < Elements; ++c) sum[c] = sums[c];
         for (ptrdiff_t i = 0; i < n; i += side) {
             meansOfSquare(columns.table(x + i), sum, mean);
@@ -192,22 +230,30 @@ private:
         for (int c = 0; c < Elements; ++c) sums[c] = sum[c];
     }
 
-    PXL_INLINE void meansOfSquare(const Sum* leaving, Vec<Sum> (&sum)[Elements], Vec<Sum> (&mean)[side]) const {
+    PXL_INLINE void meansOfSquare(const Sum* leaving, WindowSum (&sum)[Elements], Vec<Sum> (&mean)[side]) const {
         const Sum* entering = leaving + columns.w.width * Elements * side;
 #pragma GCC unroll 16
         for (int i = 0; i < side; ++i) {
-            Vec<Sum>& s = sum[i % Elements];
+            WindowSum& s = sum[i % Elements];
             mean[i] = meanOf(s);
-            s = s + LoadU(entering + i * side) - LoadU(leaving + i * side);
+            s = moved(s, LoadU(entering + i * side), LoadU(leaving + i * side));
         }
         if constexpr (Elements == 3) { // the next element is of channel side % 3
-            const Vec<Sum> first = sum[0];
+            const WindowSum first = sum[0];
             sum[0] = sum[side % 3];
             sum[side % 3] = sum[2 * side % 3];
             sum[2 * side % 3] = first;
         }
     }
 
+    static PXL_INLINE Vec<Sum> moved(Vec<Sum> sum, Vec<Sum> entering, Vec<Sum> leaving) {
+        return sum + entering - leaving;
+    }
+    static PXL_INLINE WideSums moved(const WideSums& sum, Vec<uint32_t> entering, Vec<uint32_t> leaving) {
+        return sum + (entering - leaving);
+    }
+
+    ptrdiff_t distance; // of restarts
     Mean meanOf;
     BoxColumns<T, Sum> columns;
 };
