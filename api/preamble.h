@@ -37,7 +37,8 @@
  * nearest, no exceptions trapped, no flushing of subnormal numbers to zero. Integer families compute in floating point,
  * too, so another environment in the calling thread may change any result.
  *
- * Threads: a function runs on the calling thread, unless its family says that it splits its work over a team.
+ * Threads: a function runs on the calling thread, unless its family says that it splits its work over a team; the result
+ * does not depend on the team.
  *
  * Status: every function but the allocators and the version query returns a PxlStatus. Arguments are checked before
  * anything is read or written, in the order that each family states; after a negative status nothing has been written.

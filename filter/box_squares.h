@@ -5,8 +5,8 @@
 // windows run along with every row in a lane of its own: floats thus follow the same chain of additions row by row, on every
 // target. Results are transposed back where they are stored.
 //
-// Column sums of floats begin anew at rows that the region and the mask tell, and no thread: one that takes over between
-// two of them goes through the additions since the first.
+// Column sums of floats begin anew at rows that the region and the mask tell, and no thread: one that starts between two of
+// them goes through the additions since the first.
 #pragma once
 
 #include "filter/box_means.h"
@@ -18,13 +18,15 @@ namespace pxl::PXL_TARGET::filter {
 
 using window::byBytes;
 
-// The rows where column sums of floats begin anew are multiples of this: up to a power of two of blocks, which teams share
-// well, of at least four masks, so that the sums from scratch cost little beside the rest.
+// The rows where column sums of floats begin anew are multiples of this: the height in as many parts, a power of two, as
+// leaves them at least 128 rows and four masks high, rounded up to whole groups of every target. Many parts leave the threads
+// of a team few additions to go through; few parts leave few sums to be made from scratch.
 inline ptrdiff_t restartDistance(int height, int maskHeight) {
-    const ptrdiff_t least = maskHeight > 8 ? 4 * ptrdiff_t{maskHeight} : 32;
-    ptrdiff_t blocks = 1;
-    while (2 * blocks * least <= height) blocks *= 2;
-    return (height + 8 * blocks - 1) / (8 * blocks) * 8;
+    const ptrdiff_t least = maskHeight > 32 ? 4 * ptrdiff_t{maskHeight} : 128;
+    int halvings = 0;
+    while (least << (halvings + 1) <= height) ++halvings;
+    const int unit = 3 + halvings;
+    return (height + (ptrdiff_t{1} << unit) - 1) >> unit << 3;
 }
 
 // Column sums in lanes of type Sum: modulo 2^16 or 2^32, or floats.
@@ -49,12 +51,12 @@ public:
         for (ptrdiff_t x = w.columns; x < tableColumns; ++x) StoreU(Zero<Sum>(), columnsOfRows + x * side);
     }
 
-    // Makes the column sums of row `from`, and of those the ones of row y.
+    // Makes the column sums of row `from`, and of those the ones of row y. Several rows at a time, along the whole of them.
     void start(ptrdiff_t from, ptrdiff_t y) {
-        ptrdiff_t x = 0;
-        for (; x + 4 * side <= w.columns; x += 4 * side) sumColumns<4>(from, y, x);
-        for (; x + side <= w.columns; x += side) sumColumns<1>(from, y, x);
-        if (x < w.columns) sumColumns<1>(from, y, lastSquare());
+        const Sum bias = static_cast<Sum>(boxBias<T> * static_cast<uint32_t>(w.height));
+        for (ptrdiff_t x = 0; x < w.columns; x += side) StoreU(Set<Sum>(bias), columnSums + x);
+        addRows<false>(from, w.height);
+        if constexpr (std::is_same_v<T, float>) addRows<true>(from + w.height, y - from);
     }
 
     // Begins a group of rows from y on, of which the first `count` are followed by another.
@@ -100,6 +102,7 @@ private:
 
     // The same for the last group, and where rows are shorter than a vector.
     void makeReadySlowly(ptrdiff_t columns) {
+        const auto load = [this](const T* p) { return w.columns < side ? fewSamples(p, w.columns) : samples(p); };
         for (; ready < columns; ready += side) {
             const ptrdiff_t x = ready < lastSquare() ? ready : lastSquare();
             const T* leaving = w.row(first) + x;
@@ -107,7 +110,7 @@ private:
 #pragma GCC unroll 1
             for (int j = 0; j < side; ++j, leaving = byBytes(leaving, w.step)) {
                 square[j] = sums;
-                if (j < updates) sums = sums + (fewSamples(byBytes(leaving, w.height * w.step)) - fewSamples(leaving));
+                if (j < updates) sums = sums + (load(byBytes(leaving, w.height * w.step)) - load(leaving));
             }
             finishSquare(x, square, sums);
         }
@@ -119,27 +122,39 @@ private:
         else
             return LoadPromote<Sum>(p);
     }
-    // The same where rows may be shorter than a vector.
-    PXL_INLINE Vec<Sum> fewSamples(const T* p) const {
-        if (w.columns >= side) return samples(p);
+    // n of them, zero behind them.
+    static PXL_INLINE Vec<Sum> fewSamples(const T* p, ptrdiff_t n) {
         if constexpr (std::is_same_v<T, Sum>)
-            return LoadN<side>(p, w.columns);
+            return LoadN<side>(p, n);
         else
-            return PromoteTo<Sum>(LoadN<side>(p, w.columns));
+            return PromoteTo<Sum>(LoadN<side>(p, n));
     }
 
-    template <int Vectors>
-    void sumColumns(ptrdiff_t from, ptrdiff_t y, ptrdiff_t x) {
-        const auto load = [this](const T* p, int v) { return Vectors > 1 ? samples(p + v * side) : fewSamples(p); };
-        Vec<Sum> sum[Vectors];
-        for (auto& s : sum) s = Set<Sum>(static_cast<Sum>(boxBias<T> * static_cast<uint32_t>(w.height)));
-        const T* leaving = w.row(from) + x;
-        const T* p = leaving;
-        for (int j = 0; j < w.height; ++j, p = byBytes(p, w.step))
-            for (int v = 0; v < Vectors; ++v) sum[v] = sum[v] + load(p, v);
-        for (; from < y; ++from, p = byBytes(p, w.step), leaving = byBytes(leaving, w.step))
-            for (int v = 0; v < Vectors; ++v) sum[v] = sum[v] + (load(p, v) - load(leaving, v));
-        for (int v = 0; v < Vectors; ++v) StoreU(sum[v], columnSums + x + v * side);
+    // Adds source rows y ... y + rows - 1 to the column sums, if `Moving` less those that leave the windows.
+    template <bool Moving>
+    void addRows(ptrdiff_t y, ptrdiff_t rows) {
+        for (; rows >= 8; rows -= 8, y += 8) addSomeRows<Moving, 8>(w.row(y));
+        for (; rows >= 2; rows -= 2, y += 2) addSomeRows<Moving, 2>(w.row(y));
+        if (rows > 0) addSomeRows<Moving, 1>(w.row(y));
+    }
+
+    template <bool Moving, int Rows>
+    [[gnu::noinline]] void addSomeRows(const T* p) {
+        const auto add = [&](ptrdiff_t x, const auto& load) __attribute__((always_inline)) {
+            Vec<Sum> sum = LoadU(columnSums + x);
+#pragma GCC unroll 8
+            for (int j = 0; j < Rows; ++j) {
+                const T* entering = byBytes(p + x, j * w.step);
+                if constexpr (Moving)
+                    sum = sum + (load(entering) - load(byBytes(entering, -w.height * w.step)));
+                else
+                    sum = sum + load(entering);
+            }
+            StoreU(sum, columnSums + x);
+        };
+        ptrdiff_t x = 0;
+        for (; x + side <= w.columns; x += side) add(x, [](const T* row) { return samples(row); });
+        if (x < w.columns) add(x, [n = w.columns - x](const T* row) { return fewSamples(row, n); });
     }
 
     ptrdiff_t tableColumns;
@@ -161,8 +176,8 @@ public:
     static constexpr int groupRows = side;
 
     BoxSquares(const window::Windows<T>& windows, const Mean& mean)
-        : distance(restarts ? restartDistance(windows.region.height, windows.height) : 0), meanOf(mean),
-          columns(windows, windows.width * Elements) {}
+        : distance(restarts ? restartDistance(windows.region.height, windows.height) : windows.region.height),
+          meanOf(mean), columns(windows, windows.width * Elements) {}
 
     ptrdiff_t scratchBytes() const { return columns.scratchBytes(); }
 
@@ -175,15 +190,16 @@ public:
 
     void start(char* scratch, ptrdiff_t y) {
         columns.place(scratch);
-        if (!restarts)
-            columns.start(y, y);
-        else if (y % distance != 0)
-            columns.start(y - y % distance, y);
+        anew = y;
+        origin = restarts ? y - y % distance : y;
     }
 
     [[gnu::noinline]] void group(ptrdiff_t y, int rows, bool last, const window::Destination<T>& dst) {
         const ptrdiff_t reach = columns.w.width * Elements, outputs = columns.w.outputs;
-        if (restarts && y % distance == 0) columns.start(y, y);
+        if (y == anew) {
+            columns.start(origin, y);
+            anew = origin += distance;
+        }
         columns.startGroup(y, last ? rows - 1 : rows);
         columns.makeReady(strip + reach);
         WindowSum sum[Elements];
@@ -253,7 +269,8 @@ private:
         return sum + (entering - leaving);
     }
 
-    ptrdiff_t distance; // of restarts
+    ptrdiff_t distance;             // of restarts
+    ptrdiff_t anew = 0, origin = 0; // the next row with column sums anew, and from which row they follow
     Mean meanOf;
     BoxColumns<T, Sum> columns;
 };

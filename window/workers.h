@@ -38,15 +38,17 @@ inline PxlStatus runByTeam(const Worker& worker, const Windows<T>& windows, cons
     const int height = windows.region.height;
     const int groups = (height - 1) / Worker::groupRows + 1;
     const auto rowOf = [&](int group) {
+        if (group == groups) return ptrdiff_t{height};
         const ptrdiff_t y = worker.startNear(ptrdiff_t{group} * Worker::groupRows);
         return y < height ? y : height;
     };
     return forEachBlock({windows.region.width, groups}, worthForking, slice, [&](int first, int end, char* scratch) {
-        if (rowOf(first) == rowOf(end)) return;
+        const ptrdiff_t y = rowOf(first), endRow = rowOf(end);
+        if (y == endRow) return;
         auto own = worker;
-        own.start(scratch, rowOf(first));
+        own.start(scratch, y);
         runGroups(
-            own, rowOf(first), rowOf(end), [&](ptrdiff_t y) { return dst.from(y); }, [](ptrdiff_t) {});
+            own, y, endRow, [&](ptrdiff_t row) { return dst.from(row); }, [](ptrdiff_t) {});
     });
 }
 

@@ -111,9 +111,10 @@ Samples<Sum> takeSamples(const Call& call, const Image& src, int c, Read read) {
     return samples;
 }
 
-// Column sums begin anew at rows that are multiples of this, whatever the threads.
+// Column sums begin anew at rows that are multiples of this, whatever the threads: the height in as many parts, a power of
+// two, as leaves them at least 128 rows and four masks high, rounded up to a multiple of 8.
 int64_t restartDistance(int64_t height, int64_t maskHeight) {
-    const int64_t most = height / std::max<int64_t>(32, 4 * maskHeight);
+    const int64_t most = height / std::max<int64_t>(128, 4 * maskHeight);
     int64_t blocks = 1;
     while (2 * blocks <= most) {
         blocks = 2 * blocks;
