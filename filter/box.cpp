@@ -23,7 +23,7 @@ BoxFactor factorFor(ImageSize mask, int32_t area) {
 template <class T, int Channels>
 inline constexpr bool addsInDouble = std::is_same_v<T, uint16_t> || (std::is_same_v<T, int16_t> && Channels == 4);
 
-// The same for sums of more than 31 bits.
+// Calls run(worker) with the worker for sums of more than 31 bits.
 template <int Elements, bool InDouble, class T, class Run>
 [[gnu::noinline]] PxlStatus withWideWorker(const window::Windows<T>& windows, float reciprocal, const Run& run) {
     using Mean = std::conditional_t<InDouble, BoxMeanDouble<T>, BoxMeanFloat<T>>;
@@ -32,8 +32,7 @@ template <int Elements, bool InDouble, class T, class Run>
     return run(BoxTall<T, Elements, Mean>(windows, Mean(reciprocal)));
 }
 
-// Calls run(worker) with the worker for the type and the mask. The area in the means is a product of 32 bits, whatever the
-// mask.
+// The same for any type and mask. The area in the means is a product of 32 bits, whatever the mask.
 template <int Elements, bool InDouble, class T, class Run>
 PxlStatus withWorker(const window::Windows<T>& windows, const Run& run) {
     const ImageSize mask{windows.width, windows.height};
