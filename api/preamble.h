@@ -40,7 +40,8 @@
  * round in another direction, and any other result may change. A call leaves the environment as it finds it; exception
  * flags may be raised.
  *
- * Threads: a function runs on the calling thread, unless its family says that it splits its work over a team.
+ * Threads: a function runs on the calling thread, unless its family says that it splits its work over a team; the result
+ * does not depend on the team.
  *
  * Status: every function but the allocators and the version query returns a PxlStatus. Arguments are checked before
  * anything is read or written, in the order that each family states; after a negative status nothing has been written.

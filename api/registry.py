@@ -33,7 +33,7 @@ class Facts:
     square: bool = False     # other regions are refused
     large: tuple = (0, 0)    # regions that are large in both directions, up to this size, take ways of their own
     windows: tuple = ()      # window sizes beside which the formula changes
-    running: bool = False    # sums of floats run on, so that an infinity stays in them, and restart for every thread of a team
+    running: bool = False    # sums of floats run on, so that an infinity stays in them
 
 
 @dataclass

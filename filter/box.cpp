@@ -1,8 +1,10 @@
 // The box filter: dst(x, y) = mean of the samples (x - anchor.x + i, y - anchor.y + j) of the mask.
 //
-// Sums of integers are exact modulo 2^32, so they may be formed in any order; how a sum becomes a mean differs on
-// purpose: 8u and 16s truncate, 16u rounds halves up. A 1x1 mask copies. Steps count whole elements.
+// Sums of integers are exact, so they may be formed in any order: sums of columns and of windows have 31 bits, or where the
+// mask needs more, those of windows 53 and at last both. How a sum becomes a mean differs on purpose: 8u and 16s
+// truncate, 16u rounds halves up. A 1x1 mask copies. Steps count whole elements.
 #include "filter/box_squares.h"
+#include "filter/box_tall.h"
 #include "window/checks.h"
 #include "window/workers.h"
 
@@ -21,27 +23,37 @@ BoxFactor factorFor(ImageSize mask, int32_t area) {
 template <class T, int Channels>
 inline constexpr bool addsInDouble = std::is_same_v<T, uint16_t> || (std::is_same_v<T, int16_t> && Channels == 4);
 
-// Calls run(worker) with the worker for the type and the mask.
+// Calls run(worker) with the worker for sums of more than 31 bits.
+template <int Elements, bool InDouble, class T, class Run>
+[[gnu::noinline]] PxlStatus withWideWorker(const window::Windows<T>& windows, float reciprocal, const Run& run) {
+    using Mean = std::conditional_t<InDouble, BoxMeanDouble<T>, BoxMeanFloat<T>>;
+    if (windows.height <= boxPositiveArea<T>)
+        return run(BoxSquares<T, Elements, Mean, WideSums>(windows, Mean(reciprocal)));
+    return run(BoxTall<T, Elements, Mean>(windows, Mean(reciprocal)));
+}
+
+// The same for any type and mask. The area in the means is a product of 32 bits, whatever the mask.
 template <int Elements, bool InDouble, class T, class Run>
 PxlStatus withWorker(const window::Windows<T>& windows, const Run& run) {
     const ImageSize mask{windows.width, windows.height};
-    const int32_t area = static_cast<int32_t>(static_cast<uint32_t>(mask.width) * static_cast<uint32_t>(mask.height));
+    const int64_t pixels = int64_t{mask.width} * mask.height;
+    const int32_t area = static_cast<int32_t>(static_cast<uint32_t>(pixels));
     const float reciprocal = 1.0f / static_cast<float>(area);
     const auto squares = [&](const auto& mean) {
         return run(BoxSquares<T, Elements, std::decay_t<decltype(mean)>>(windows, mean));
     };
     if constexpr (std::is_same_v<T, float>) {
         return squares(BoxMean32f(reciprocal));
-    } else if constexpr (InDouble) {
-        if (area > 0 && area <= boxPositiveArea) return squares(BoxMeanExact<T>(reciprocal));
-        return squares(BoxMeanDouble<T>(reciprocal));
-    } else if constexpr (std::is_same_v<T, int16_t>) {
-        return squares(BoxMeanFloat<T>(reciprocal));
     } else {
-        if (area > boxIntegerArea) return squares(BoxMeanFloat<T>(reciprocal));
-        const BoxFactor factor = factorFor<Elements>(mask, area);
-        if (area <= boxNarrowArea) return squares(BoxMeanNarrow(factor));
-        return squares(BoxMeanInteger(factor));
+        if constexpr (std::is_same_v<T, uint8_t>)
+            if (area <= boxIntegerArea) {
+                const BoxFactor factor = factorFor<Elements>(mask, area);
+                if (pixels <= boxNarrowArea) return squares(BoxMeanNarrow(factor));
+                return squares(BoxMeanInteger(factor));
+            }
+        if (pixels > boxPositiveArea<T>) return withWideWorker<Elements, InDouble>(windows, reciprocal, run);
+        using Mean = std::conditional_t<InDouble, BoxMeanExact<T>, BoxMeanFloat<T>>;
+        return squares(Mean(reciprocal));
     }
 }
 

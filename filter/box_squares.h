@@ -4,6 +4,9 @@
 // samples that enter and subtracts those that leave. Transposed, a vector holds one column of all rows, and the sums of the
 // windows run along with every row in a lane of its own: floats thus follow the same chain of additions row by row, on every
 // target. Results are transposed back where they are stored.
+//
+// Column sums of floats begin anew at rows that the region and the mask tell, and no thread: one that starts between two of
+// them goes through the additions since the first.
 #pragma once
 
 #include "filter/box_means.h"
@@ -14,6 +17,17 @@
 namespace pxl::PXL_TARGET::filter {
 
 using window::byBytes;
+
+// The rows where column sums of floats begin anew are multiples of this: the height in as many parts, a power of two, as
+// leaves them at least 128 rows and four masks high, rounded up to whole groups of every target. Many parts leave the threads
+// of a team few additions to go through; few parts leave few sums to be made from scratch.
+inline ptrdiff_t restartDistance(int height, int maskHeight) {
+    const ptrdiff_t least = maskHeight > 32 ? 4 * ptrdiff_t{maskHeight} : 128;
+    int halvings = 0;
+    while (least << (halvings + 1) <= height) ++halvings;
+    const int unit = 3 + halvings;
+    return (height + (ptrdiff_t{1} << unit) - 1) >> unit << 3;
+}
 
 // Column sums in lanes of type Sum: modulo 2^16 or 2^32, or floats.
 template <class T, class Sum>
@@ -31,15 +45,18 @@ public:
         return (tableColumns * side + w.columns + side) * static_cast<ptrdiff_t>(sizeof(Sum));
     }
 
-    // Gets scratch memory, and the column sums of row y.
-    void start(void* scratch, ptrdiff_t y) {
+    void place(void* scratch) {
         columnsOfRows = static_cast<Sum*>(scratch);
         columnSums = columnsOfRows + tableColumns * side;
         for (ptrdiff_t x = w.columns; x < tableColumns; ++x) StoreU(Zero<Sum>(), columnsOfRows + x * side);
-        ptrdiff_t x = 0;
-        for (; x + 4 * side <= w.columns; x += 4 * side) sumColumns<4>(y, x);
-        for (; x + side <= w.columns; x += side) sumColumns<1>(y, x);
-        if (x < w.columns) sumColumns<1>(y, lastSquare());
+    }
+
+    // Makes the column sums of row `from`, and of those the ones of row y. Several rows at a time, along the whole of them.
+    void start(ptrdiff_t from, ptrdiff_t y) {
+        const Sum bias = static_cast<Sum>(boxBias<T> * static_cast<uint32_t>(w.height));
+        for (ptrdiff_t x = 0; x < w.columns; x += side) StoreU(Set<Sum>(bias), columnSums + x);
+        addRows<false>(from, w.height);
+        if constexpr (std::is_same_v<T, float>) addRows<true>(from + w.height, y - from);
     }
 
     // Begins a group of rows from y on, of which the first `count` are followed by another.
@@ -85,6 +102,7 @@ private:
 
     // The same for the last group, and where rows are shorter than a vector.
     void makeReadySlowly(ptrdiff_t columns) {
+        const auto load = [this](const T* p) { return w.columns < side ? fewSamples(p, w.columns) : samples(p); };
         for (; ready < columns; ready += side) {
             const ptrdiff_t x = ready < lastSquare() ? ready : lastSquare();
             const T* leaving = w.row(first) + x;
@@ -92,7 +110,7 @@ private:
 #pragma GCC unroll 1
             for (int j = 0; j < side; ++j, leaving = byBytes(leaving, w.step)) {
                 square[j] = sums;
-                if (j < updates) sums = sums + (fewSamples(byBytes(leaving, w.height * w.step)) - fewSamples(leaving));
+                if (j < updates) sums = sums + (load(byBytes(leaving, w.height * w.step)) - load(leaving));
             }
             finishSquare(x, square, sums);
         }
@@ -104,23 +122,39 @@ private:
         else
             return LoadPromote<Sum>(p);
     }
-    // The same where rows may be shorter than a vector.
-    PXL_INLINE Vec<Sum> fewSamples(const T* p) const {
-        if (w.columns >= side) return samples(p);
+    // n of them, zero behind them.
+    static PXL_INLINE Vec<Sum> fewSamples(const T* p, ptrdiff_t n) {
         if constexpr (std::is_same_v<T, Sum>)
-            return LoadN<side>(p, w.columns);
+            return LoadN<side>(p, n);
         else
-            return PromoteTo<Sum>(LoadN<side>(p, w.columns));
+            return PromoteTo<Sum>(LoadN<side>(p, n));
     }
 
-    template <int Vectors>
-    void sumColumns(ptrdiff_t y, ptrdiff_t x) {
-        Vec<Sum> sum[Vectors];
-        for (auto& s : sum) s = Set<Sum>(static_cast<Sum>(boxBias<T> * static_cast<uint32_t>(w.height)));
-        const T* p = w.row(y) + x;
-        for (int j = 0; j < w.height; ++j, p = byBytes(p, w.step))
-            for (int v = 0; v < Vectors; ++v) sum[v] = sum[v] + (Vectors > 1 ? samples(p + v * side) : fewSamples(p));
-        for (int v = 0; v < Vectors; ++v) StoreU(sum[v], columnSums + x + v * side);
+    // Adds source rows y ... y + rows - 1 to the column sums, if `Moving` less those that leave the windows.
+    template <bool Moving>
+    void addRows(ptrdiff_t y, ptrdiff_t rows) {
+        for (; rows >= 8; rows -= 8, y += 8) addSomeRows<Moving, 8>(w.row(y));
+        for (; rows >= 2; rows -= 2, y += 2) addSomeRows<Moving, 2>(w.row(y));
+        if (rows > 0) addSomeRows<Moving, 1>(w.row(y));
+    }
+
+    template <bool Moving, int Rows>
+    [[gnu::noinline]] void addSomeRows(const T* p) {
+        const auto add = [&](ptrdiff_t x, const auto& load) __attribute__((always_inline)) {
+            Vec<Sum> sum = LoadU(columnSums + x);
+#pragma GCC unroll 8
+            for (int j = 0; j < Rows; ++j) {
+                const T* entering = byBytes(p + x, j * w.step);
+                if constexpr (Moving)
+                    sum = sum + (load(entering) - load(byBytes(entering, -w.height * w.step)));
+                else
+                    sum = sum + load(entering);
+            }
+            StoreU(sum, columnSums + x);
+        };
+        ptrdiff_t x = 0;
+        for (; x + side <= w.columns; x += side) add(x, [](const T* row) { return samples(row); });
+        if (x < w.columns) add(x, [n = w.columns - x](const T* row) { return fewSamples(row, n); });
     }
 
     ptrdiff_t tableColumns;
@@ -132,8 +166,9 @@ private:
     Vec<Sum> lastSums{}; // column sums of the last square as the group began
 };
 
-// The filter with the means of one type and mask: a worker (window/workers.h), which withWorker of box.cpp chooses.
-template <class T, int Elements, class Mean>
+// The filter with the means of one type and mask: a worker (window/workers.h), which withWorker of box.cpp chooses. Sums of
+// windows are vectors of the sums of columns, or WideSums.
+template <class T, int Elements, class Mean, class WindowSum = Vec<typename Mean::Sum>>
 class BoxSquares {
 public:
     using Sum = typename Mean::Sum;
@@ -141,16 +176,33 @@ public:
     static constexpr int groupRows = side;
 
     BoxSquares(const window::Windows<T>& windows, const Mean& mean)
-        : meanOf(mean), columns(windows, windows.width * Elements) {}
+        : distance(restarts ? restartDistance(windows.region.height, windows.height) : windows.region.height),
+          meanOf(mean), columns(windows, windows.width * Elements) {}
 
     ptrdiff_t scratchBytes() const { return columns.scratchBytes(); }
-    void start(char* scratch, ptrdiff_t y) { columns.start(scratch, y); }
+
+    // A few rows more for the thread above cost less than the additions of a whole block.
+    ptrdiff_t startNear(ptrdiff_t y) const {
+        if (!restarts || y % distance == 0) return y;
+        const ptrdiff_t below = distance - y % distance;
+        return below <= distance / 8 ? y + below : y;
+    }
+
+    void start(char* scratch, ptrdiff_t y) {
+        columns.place(scratch);
+        anew = y;
+        origin = restarts ? y - y % distance : y;
+    }
 
     [[gnu::noinline]] void group(ptrdiff_t y, int rows, bool last, const window::Destination<T>& dst) {
         const ptrdiff_t reach = columns.w.width * Elements, outputs = columns.w.outputs;
+        if (y == anew) {
+            columns.start(origin, y);
+            anew = origin += distance;
+        }
         columns.startGroup(y, last ? rows - 1 : rows);
         columns.makeReady(strip + reach);
-        Vec<Sum> sum[Elements];
+        WindowSum sum[Elements];
         firstWindow(sum);
         for (ptrdiff_t x = 0; x < outputs; x += strip) {
             const ptrdiff_t n = outputs - x < strip ? outputs - x : strip;
@@ -164,6 +216,7 @@ public:
     }
 
 private:
+    static constexpr bool restarts = std::is_same_v<T, float>;
     static constexpr ptrdiff_t bytes = sizeof(T);
     static constexpr ptrdiff_t strip = 8 * side; // as far as one pass goes: its columns stay in the first-level cache
 
@@ -173,16 +226,17 @@ private:
         return dst.keepsAlpha || (side > 8 && dst.step % 4096 == 0);
     }
 
-    void firstWindow(Vec<Sum> (&sum)[Elements]) const {
+    void firstWindow(WindowSum (&sum)[Elements]) const {
         const Sum* p = columns.table(0);
-        for (auto& s : sum) s = LoadU(p), p += side;
+        for (auto& s : sum) s = WindowSum(LoadU(p)), p += side;
         for (ptrdiff_t i = 1; i < columns.w.width; ++i)
             for (auto& s : sum) s = s + LoadU(p), p += side;
     }
 
     // The means of n windows from x on, in whole squares; leaves the sums of the windows behind them.
-    void meansAlong(ptrdiff_t x, ptrdiff_t n, Vec<Sum> (&sums)[Elements], T* results, ptrdiff_t step) const {
-        Vec<Sum> sum[Elements], mean[side];
+    void meansAlong(ptrdiff_t x, ptrdiff_t n, WindowSum (&sums)[Elements], T* results, ptrdiff_t step) const {
+        WindowSum sum[Elements];
+        Vec<Sum> mean[side];
         for (int c = 0; c < Elements; ++c) sum[c] = sums[c];
         for (ptrdiff_t i = 0; i < n; i += side) {
             meansOfSquare(columns.table(x + i), sum, mean);
@@ -192,22 +246,31 @@ private:
         for (int c = 0; c < Elements; ++c) sums[c] = sum[c];
     }
 
-    PXL_INLINE void meansOfSquare(const Sum* leaving, Vec<Sum> (&sum)[Elements], Vec<Sum> (&mean)[side]) const {
+    PXL_INLINE void meansOfSquare(const Sum* leaving, WindowSum (&sum)[Elements], Vec<Sum> (&mean)[side]) const {
         const Sum* entering = leaving + columns.w.width * Elements * side;
 #pragma GCC unroll 16
         for (int i = 0; i < side; ++i) {
-            Vec<Sum>& s = sum[i % Elements];
+            WindowSum& s = sum[i % Elements];
             mean[i] = meanOf(s);
-            s = s + LoadU(entering + i * side) - LoadU(leaving + i * side);
+            s = moved(s, LoadU(entering + i * side), LoadU(leaving + i * side));
         }
         if constexpr (Elements == 3) { // the next element is of channel side % 3
-            const Vec<Sum> first = sum[0];
+            const WindowSum first = sum[0];
             sum[0] = sum[side % 3];
             sum[side % 3] = sum[2 * side % 3];
             sum[2 * side % 3] = first;
         }
     }
 
+    static PXL_INLINE Vec<Sum> moved(Vec<Sum> sum, Vec<Sum> entering, Vec<Sum> leaving) {
+        return sum + entering - leaving;
+    }
+    static PXL_INLINE WideSums moved(const WideSums& sum, Vec<uint32_t> entering, Vec<uint32_t> leaving) {
+        return sum + (entering - leaving);
+    }
+
+    ptrdiff_t distance;             // of restarts
+    ptrdiff_t anew = 0, origin = 0; // the next row with column sums anew, and from which row they follow
     Mean meanOf;
     BoxColumns<T, Sum> columns;
 };

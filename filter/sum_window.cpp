@@ -94,14 +94,14 @@ PxlStatus SumWindowRow(Image<const T, Elements> src, Image<float, Elements> dst,
     const ptrdiff_t rowBytes = roi.width * to.pixelBytes;
     const bool apart = to.step >= rowBytes || -to.step >= rowBytes;
     const int together = apart ? squareSide<float> : 1;
-    for (int y = 0; y < roi.height; y += together) {
+    for (ptrdiff_t y = 0; y < roi.height; y += together) {
         RowGroup<T, Elements> group{.src = windows.row(y),
                                     .srcStep = windows.step,
                                     .dst = to.at(0, y),
                                     .dstStep = to.step,
                                     .width = windows.outputs,
                                     .reach = ptrdiff_t{maskSize} * Elements};
-        group.run(roi.height - y < together ? roi.height - y : together);
+        group.run(roi.height - y < together ? static_cast<int>(roi.height - y) : together);
     }
     return PXL_OK;
 }

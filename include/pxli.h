@@ -40,7 +40,8 @@
  * round in another direction, and any other result may change. A call leaves the environment as it finds it; exception
  * flags may be raised.
  *
- * Threads: a function runs on the calling thread, unless its family says that it splits its work over a team.
+ * Threads: a function runs on the calling thread, unless its family says that it splits its work over a team; the result
+ * does not depend on the team.
  *
  * Status: every function but the allocators and the version query returns a PxlStatus. Arguments are checked before
  * anything is read or written, in the order that each family states; after a negative status nothing has been written.
@@ -3096,12 +3097,22 @@ PxlStatus pxliFilterColumn32f_16u_AC4R(const uint16_t* src, int srcStep, uint16_
  *        32768
  *   16u  S * r + 0.5000001 (this sum in double precision), truncated: to nearest, halves up
  *   32f  S * r with running sums in single precision
- * A 1 x 1 mask copies. Steps of 16- and 32-bit types count whole elements: what is over is dropped.
+ * Integer sums are exact for every mask; they become floats, rounded to nearest, where they are multiplied by r. The
+ * area is a product of 32 bits, so masks have fewer than 2^31 pixels. A 1 x 1 mask copies. Steps of 16- and 32-bit
+ * types count whole elements: what is over is dropped.
+ *
+ * Sums of 32f: a column sum begins as the samples of the window's rows, added from top to bottom, and goes on, row by
+ * row, by adding the difference of the sample that enters and the one that leaves. A row begins with the sum of the
+ * columns of its first window, added from left to right, and goes on by adding the column that enters and subtracting
+ * the one that leaves. Column sums begin anew in rows 0, B, 2 * B ... of the region: B is the height of the region in
+ * 2^k equal parts, with the largest k >= 0 that leaves them at least 128 rows and 4 * maskSize.height rows high (k = 0
+ * if none does), rounded up to a multiple of 8. An infinity or NaN that has entered a column sum stays in it until
+ * then.
  *
  * Threads: out of place, 8u, 16s and 32f regions of more than 4096 pixels (C4: all) are split into blocks of rows over
- * a team of threads_omp_of_n_pxl threads; 32f results may differ in the last bits between team sizes. Everything else
- * runs on the calling thread. Scratch: column sums of up to 16 rows; in place also the rows of results that wait for
- * anchor.y rows below them.
+ * a team of threads_omp_of_n_pxl threads; the result does not depend on the team. Everything else runs on the calling
+ * thread. Scratch: column sums of up to 16 rows; in place also the rows of results that wait for anchor.y rows below
+ * them.
  *
  * Statuses, in this order:
  *   PXL_E_NULL_PTR   a pointer is null

@@ -45,11 +45,11 @@ int32_t Differential::compare(const Call& call, Random& random) {
     for (int i = 0; i < call.memories; ++i) fillMemory(call, i, start().at(i), random);
     start().copyTo(expected(), call);
     static constexpr int teams[] = {1, 2, 3, 8};
-    threads_omp_of_n_pxl = reference::team = teams[generic::between(random, 0, 3)];
+    threads_omp_of_n_pxl = teams[generic::between(random, 0, 3)];
     const int32_t status = reference::find(call.member->family)(*call.member, call.bind(expected().pointers()).data());
     for (const pxl::KnownTarget& target : availableTargets(*call.member)) {
         const TargetScope scope(target);
-        SCOPED_TRACE(testing::Message() << target.name << ", team " << reference::team << ": " << call.describe());
+        SCOPED_TRACE(testing::Message() << target.name << ", team " << threads_omp_of_n_pxl << ": " << call.describe());
         start().copyTo(actual(), call);
         EXPECT_EQ(call.member->call(call.bind(actual().pointers()).data()), status);
         expectSameBytes(call);

@@ -4,10 +4,12 @@
 // A worker makes the results of a few rows at a time and goes downwards:
 //     groupRows                   the most rows of a group
 //     scratchBytes()              what it needs
+//     startNear(y)                where a run may as well start as at row y: there or somewhat below
 //     start(scratch, y)           before a run of groups, of which the first begins with row y
 //     group(y, rows, last, dst)   the results of rows y ... y + rows - 1, to dst, which begins with row y; only the last
 //                                 group may have fewer than groupRows rows
-// It may read the source rows of the windows of its group and, unless that is the last, of the row behind it.
+// It may read the source rows of the windows of its group and, unless that is the last, of the row behind it; where a run
+// starts, also those of the rows above.
 #pragma once
 
 #include "frame/parallel.h"
@@ -19,24 +21,34 @@ inline ptrdiff_t wholeLines(ptrdiff_t bytes) { return (bytes + 63) & ~ptrdiff_t{
 
 // Calls finished(y) after each group, whose results went to resultsAt(its first row), with the first row behind it.
 template <class Worker, class ResultsAt, class Finished>
-inline void runGroups(Worker& worker, int first, int end, const ResultsAt& resultsAt, const Finished& finished) {
-    for (int y = first; y < end; y += Worker::groupRows) {
-        const int rows = end - y < Worker::groupRows ? end - y : Worker::groupRows;
+inline void runGroups(Worker& worker, ptrdiff_t first, ptrdiff_t end, const ResultsAt& resultsAt,
+                      const Finished& finished) {
+    for (ptrdiff_t y = first; y < end; y += Worker::groupRows) {
+        const int rows = end - y < Worker::groupRows ? static_cast<int>(end - y) : Worker::groupRows;
         worker.group(y, rows, y + rows == end, resultsAt(y));
         finished(y + rows);
     }
 }
 
-// Out of place: one block of rows, and one copy of the worker, per thread.
+// Out of place: one block of whole groups, and one copy of the worker, per thread.
 template <class Worker, class T>
 inline PxlStatus runByTeam(const Worker& worker, const Windows<T>& windows, const Destination<T>& dst,
                            bool worthForking) {
     const ptrdiff_t slice = wholeLines(worker.scratchBytes());
-    return forEachBlock(windows.region, worthForking, slice, [&](int first, int end, char* scratch) {
+    const int height = windows.region.height;
+    const int groups = (height - 1) / Worker::groupRows + 1;
+    const auto rowOf = [&](int group) {
+        if (group == groups) return ptrdiff_t{height};
+        const ptrdiff_t y = worker.startNear(ptrdiff_t{group} * Worker::groupRows);
+        return y < height ? y : height;
+    };
+    return forEachBlock({windows.region.width, groups}, worthForking, slice, [&](int first, int end, char* scratch) {
+        const ptrdiff_t y = rowOf(first), endRow = rowOf(end);
+        if (y == endRow) return;
         auto own = worker;
-        own.start(scratch, first);
+        own.start(scratch, y);
         runGroups(
-            own, first, end, [&](int y) { return dst.from(y); }, [](int) {});
+            own, y, endRow, [&](ptrdiff_t row) { return dst.from(row); }, [](ptrdiff_t) {});
     });
 }
 
@@ -80,8 +92,8 @@ inline PxlStatus runInPlace(Worker worker, const Windows<T>& windows, const Dest
     waiting.place(scratch.get() + ownBytes);
     worker.start(scratch.get(), 0);
     runGroups(
-        worker, 0, windows.region.height, [&](int y) { return waiting.from(y); },
-        [&](int finished) { waiting.writeBack(finished); });
+        worker, 0, windows.region.height, [&](ptrdiff_t y) { return waiting.from(y); },
+        [&](ptrdiff_t finished) { waiting.writeBack(finished); });
     return PXL_OK;
 }
 

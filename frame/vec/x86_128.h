@@ -231,6 +231,10 @@ PXL_INLINE Vec<Narrow> OrderedDemote4To(Vec<int32_t> a, Vec<int32_t> b, Vec<int3
 // The lanes of the lower and of the upper half of the register as doubles, and back.
 PXL_INLINE Vec<double> PromoteLowerToDouble(Vec<float> v) { return {_mm_cvtps_pd(v.raw)}; }
 PXL_INLINE Vec<double> PromoteUpperToDouble(Vec<float> v) { return {_mm_cvtps_pd(_mm_movehl_ps(v.raw, v.raw))}; }
+PXL_INLINE Vec<double> PromoteLowerToDouble(Vec<int32_t> v) { return {_mm_cvtepi32_pd(ints(v))}; }
+PXL_INLINE Vec<double> PromoteUpperToDouble(Vec<int32_t> v) {
+    return {_mm_cvtepi32_pd(_mm_unpackhi_epi64(ints(v), ints(v)))};
+}
 PXL_INLINE Vec<float> ConvertToFloat(Vec<double> lower, Vec<double> upper) {
     return {_mm_movelh_ps(_mm_cvtpd_ps(lower.raw), _mm_cvtpd_ps(upper.raw))};
 }

@@ -219,6 +219,12 @@ PXL_INLINE Vec<Narrow> OrderedDemote4To(Vec<int32_t> a, Vec<int32_t> b, Vec<int3
 // The lanes of the lower and of the upper half of the register as doubles, and back.
 PXL_INLINE Vec<double> PromoteLowerToDouble(Vec<float> v) { return {_mm256_cvtps_pd(_mm256_castps256_ps128(v.raw))}; }
 PXL_INLINE Vec<double> PromoteUpperToDouble(Vec<float> v) { return {_mm256_cvtps_pd(_mm256_extractf128_ps(v.raw, 1))}; }
+PXL_INLINE Vec<double> PromoteLowerToDouble(Vec<int32_t> v) {
+    return {_mm256_cvtepi32_pd(_mm256_castsi256_si128(ints(v)))};
+}
+PXL_INLINE Vec<double> PromoteUpperToDouble(Vec<int32_t> v) {
+    return {_mm256_cvtepi32_pd(_mm256_extracti128_si256(ints(v), 1))};
+}
 PXL_INLINE Vec<float> ConvertToFloat(Vec<double> lower, Vec<double> upper) {
     return {_mm256_set_m128(_mm256_cvtpd_ps(upper.raw), _mm256_cvtpd_ps(lower.raw))};
 }

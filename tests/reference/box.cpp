@@ -1,7 +1,9 @@
 // Box filter: the mean of the mask's window around every pixel, by running sums.
 //
 // Integer sums are exact whatever their order, but 32f sums show every rounding. So the chain of additions is one and
-// the same for all: column sums that move down row by row, and a window sum that moves along them.
+// the same for all: column sums that begin anew at certain rows and move down from there, and a window sum that moves
+// along them.
+#include <algorithm>
 #include <functional>
 #include <utility>
 #include <vector>
@@ -53,10 +55,14 @@ template <typename Sum>
 class Running {
 public:
     Running(Samples<Sum> channelSamples, const Arg& maskSize)
-        : samples(std::move(channelSamples)), mask(maskSize), columnSums(static_cast<size_t>(samples.columns)) {
+        : samples(std::move(channelSamples)), mask(maskSize), columnSums(static_cast<size_t>(samples.columns)) {}
+
+    // The column sums of the windows of row y, from their samples.
+    void begin(int64_t y) {
         for (int64_t k = 0; k < samples.columns; ++k) {
+            column(k) = 0;
             for (int64_t j = 0; j < mask.height; ++j) {
-                column(k) = column(k) + samples.at(k, j);
+                column(k) = column(k) + samples.at(k, y + j);
             }
         }
     }
@@ -76,10 +82,10 @@ public:
         }
     }
 
-    // From the windows of row y to those of the next.
-    void moveDown(int64_t y) {
+    // The same from those of the row above.
+    void moveDownTo(int64_t y) {
         for (int64_t k = 0; k < samples.columns; ++k) {
-            const Sum difference = samples.at(k, y + mask.height) - samples.at(k, y);
+            const Sum difference = samples.at(k, y - 1 + mask.height) - samples.at(k, y - 1);
             column(k) = column(k) + difference;
         }
     }
@@ -105,8 +111,20 @@ Samples<Sum> takeSamples(const Call& call, const Image& src, int c, Read read) {
     return samples;
 }
 
+// Column sums begin anew at rows that are multiples of this, whatever the threads: the height in as many parts, a power of
+// two, as leaves them at least 128 rows and four masks high, rounded up to a multiple of 8.
+int64_t restartDistance(int64_t height, int64_t maskHeight) {
+    const int64_t most = height / std::max<int64_t>(128, 4 * maskHeight);
+    int64_t blocks = 1;
+    while (2 * blocks <= most) {
+        blocks = 2 * blocks;
+    }
+    return (height + 8 * blocks - 1) / (8 * blocks) * 8;
+}
+
 template <typename Sum, typename Read, typename Write>
 void filterChannels(const Call& call, const Image& src, const Image& dst, Read read, Write write) {
+    const int64_t distance = restartDistance(call.roi.height, call.mask.height);
     std::vector<Running<Sum>> channels;
     for (int c = 0; c < src.active; ++c) {
         channels.emplace_back(takeSamples<Sum>(call, src, c, read), call.mask);
@@ -114,14 +132,17 @@ void filterChannels(const Call& call, const Image& src, const Image& dst, Read r
     for (int64_t y = 0; y < call.roi.height; ++y) {
         for (int c = 0; c < src.active; ++c) {
             Running<Sum>& channel = channels[static_cast<size_t>(c)];
+            if (y % distance == 0) {
+                channel.begin(y);
+            } else {
+                channel.moveDownTo(y);
+            }
             channel.forEachWindow(call.roi.width, [&](int64_t x, Sum sum) { write(dst.at(x, y, c), sum); });
-            if (y + 1 < call.roi.height) channel.moveDown(y);
         }
     }
 }
 
-// Integer sums wrap in 32 bits; the signed value is what the means are formed from.
-using Mean = std::function<int64_t(int32_t sum)>;
+using Mean = std::function<int64_t(int64_t sum)>;
 
 // Keeps 12 leading bits of the reciprocal. One more in the last of them makes up for those cut off.
 Mean byteMean(float reciprocal) {
@@ -132,15 +153,15 @@ Mean byteMean(float reciprocal) {
     }
     const uint32_t multiplier = (v >> 20) + 1;
     const uint32_t shift = k + 12;
-    return [=](int32_t sum) { return int64_t{(multiplier * static_cast<uint32_t>(sum)) >> shift}; };
+    return [=](int64_t sum) { return int64_t{(multiplier * static_cast<uint32_t>(sum)) >> shift}; };
 }
 
 Mean threeByThreeMean() {
-    return [](int32_t sum) { return (int64_t{sum} * 29128) >> 18; };
+    return [](int64_t sum) { return (sum * 29128) >> 18; };
 }
 
 Mean truncatedMean(float reciprocal, int64_t bias) {
-    return [=](int32_t sum) {
+    return [=](int64_t sum) {
         const float product = static_cast<float>(sum) * reciprocal;
         const float mean = product + 9.0e-6F;
         return static_cast<int64_t>(mean) - bias;
@@ -149,7 +170,7 @@ Mean truncatedMean(float reciprocal, int64_t bias) {
 
 // Only the addition is in double precision, not the product.
 Mean truncatedWideMean(float reciprocal, int64_t bias) {
-    return [=](int32_t sum) {
+    return [=](int64_t sum) {
         const float product = static_cast<float>(sum) * reciprocal;
         const double mean = static_cast<double>(product) + 9.0e-6;
         return static_cast<int64_t>(mean) - bias;
@@ -157,7 +178,7 @@ Mean truncatedWideMean(float reciprocal, int64_t bias) {
 }
 
 Mean roundedMean(float reciprocal) {
-    return [=](int32_t sum) {
+    return [=](int64_t sum) {
         const float product = static_cast<float>(sum) * reciprocal;
         return static_cast<int64_t>(static_cast<double>(product) + 0.5000001);
     };
@@ -185,41 +206,19 @@ void filterIntegers(const Member& member, const Call& call, const Image& src, co
     const Element type = elementOf(member.src);
     const int64_t bias = biasOf(member);
     const Mean mean = meanOf(member, call.mask, reciprocal);
-    filterChannels<uint32_t>(
-        call, src, dst, [=](const uint8_t* sample) { return static_cast<uint32_t>(readInt(type, sample) + bias); },
-        [&](uint8_t* element, uint32_t sum) { writeInt(type, element, mean(static_cast<int32_t>(sum))); });
+    filterChannels<int64_t>(
+        call, src, dst, [=](const uint8_t* sample) { return readInt(type, sample) + bias; },
+        [&](uint8_t* element, int64_t sum) { writeInt(type, element, mean(sum)); });
 }
 
-Image below(Image image, int64_t rows) {
-    for (auto& first : image.channel) {
-        if (first) first += rows * image.step;
-    }
-    return image;
-}
-
-// How many blocks of rows a call is split into, one for each thread of a team.
-int64_t blocksOf(const Member& member, const Call& call) {
-    const bool large = int64_t{call.roi.width} * call.roi.height > 4096;
-    return member.mode == "R" && (member.layout == "C4" || large) ? team : 1;
-}
-
-// Every block begins its sums afresh.
 void filterFloats(const Member& member, const Call& call, const Image& src, const Image& dst, float reciprocal) {
     const Element type = elementOf(member.src);
-    const int64_t blocks = blocksOf(member, call);
-    for (int64_t i = 0; i < blocks; ++i) {
-        const int64_t first = call.roi.height * i / blocks;
-        Arg rows = call.roi;
-        rows.height = static_cast<int32_t>(call.roi.height * (i + 1) / blocks - first);
-        if (rows.height == 0) continue;
-        filterChannels<float>(
-            {call.src, call.srcStep, call.dst, call.dstStep, rows, call.mask, call.anchor}, below(src, first),
-            below(dst, first), [=](const uint8_t* sample) { return static_cast<float>(readReal(type, sample)); },
-            [=](uint8_t* element, float sum) {
-                const float mean = sum * reciprocal;
-                writeReal(type, element, static_cast<double>(mean));
-            });
-    }
+    filterChannels<float>(
+        call, src, dst, [=](const uint8_t* sample) { return static_cast<float>(readReal(type, sample)); },
+        [=](uint8_t* element, float sum) {
+            const float mean = sum * reciprocal;
+            writeReal(type, element, static_cast<double>(mean));
+        });
 }
 
 // Running sums in single precision would not give every sample back.

@@ -60,7 +60,4 @@ private:
 
 inline Function find(std::string_view family) { return Registered::find(family); }
 
-// The team that calls are run with. Only sums that start afresh with the rows of every thread depend on it.
-inline int team = 1;
-
 } // namespace reference
