@@ -1,8 +1,8 @@
 // Quotients of an image and one constant per channel: dst = src / value, as those of two images; 32f multiplies by the
 // reciprocals. A constant of 0 is an error: 0 of either sign, complex a + bi with a*a + b*b = 0.
 #include "arith/complex_quotients.h"
+#include "arith/constant_quotients.h"
 #include "arith/products.h"
-#include "arith/quotients.h"
 #include "frame/checks.h"
 
 namespace pxl::PXL_TARGET::arith {
@@ -36,7 +36,7 @@ template <class T, int Elements, int Channels>
 PXL_INLINE PxlStatus DivC(Image<const T, Elements, Channels> src, Values<T, Channels> values,
                           Image<T, Elements, Channels> dst, ImageSize roi, int scaleFactor) {
     if (const PxlStatus status = checkConstants(src, values, dst, roi)) return status;
-    return divide<T>(pointwise::WithConstants(src, values, dst, roi), scaleFactor);
+    return divideByConstants(pointwise::WithConstants(src, values, dst, roi), values.base, Channels, scaleFactor);
 }
 
 template <class T, int Elements, int Channels>

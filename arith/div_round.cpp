@@ -12,19 +12,47 @@
 namespace pxl::PXL_TARGET::arith {
 namespace {
 
-template <class T>
-PXL_INLINE Vec<uint32_t> roundTo(std::integral_constant<int, PXL_ROUND_ZERO>, Vec<float> q) {
-    return BitCast<uint32_t>(TruncateToInt(q));
-}
-template <class T>
-PXL_INLINE Vec<uint32_t> roundTo(std::integral_constant<int, PXL_ROUND_NEAR_EVEN>, Vec<float> q) {
-    return BitCast<uint32_t>(NearestInt(q));
-}
-template <class T>
-PXL_INLINE Vec<uint32_t> roundTo(std::integral_constant<int, PXL_ROUND_HALF_AWAY>, Vec<float> q) {
+template <int Mode>
+PXL_INLINE Vec<int32_t> roundTo(Vec<float> q) {
+    if constexpr (Mode == PXL_ROUND_ZERO) return TruncateToInt(q);
+    if constexpr (Mode == PXL_ROUND_NEAR_EVEN) return NearestInt(q);
     const Vec<float> sign = q & Set<float>(-0.0f);
-    return BitCast<uint32_t>(TruncateToInt(q + (Set<float>(0.5f) | sign)));
+    return TruncateToInt(q + (Set<float>(0.5f) | sign));
 }
+
+template <int Mode>
+struct RoundByte {
+    PXL_INLINE Vec<uint32_t> operator()(Vec<float> q) const { return BitCast<uint32_t>(roundTo<Mode>(AtMost(255, q))); }
+};
+
+// 16 bits. What is far below the range, and NaN, comes to the smallest integer, which saturates when it is packed; the signed
+// 0 / 0 is taken out afterwards.
+template <class T, int Mode>
+struct RoundedQuotient : Quotient {
+    struct Divisor {
+        BlockNumbers number;
+        Mask<T> zero;
+    };
+    float factor;
+
+    PXL_INLINE static BlockNumbers numbersOf(Vec<T> v) {
+        if constexpr (std::is_signed_v<T>)
+            return {v, Zero<uint16_t>()};
+        else
+            return BlockNumbers(v);
+    }
+    PXL_INLINE Divisor prepare(Vec<T> x) const { return {numbersOf(x), x == Zero<T>()}; }
+    PXL_INLINE Vec<T> operator()(Vec<T> y, const Divisor& x) const {
+        const BlockNumbers dividend = numbersOf(y);
+        const auto divide = [&](Vec<float> number, Vec<float> by) {
+            return roundTo<Mode>(AtMost(highestOf<T>, number * Set<float>(factor) / by));
+        };
+        const Vec<T> rounded =
+            ReorderDemote2To<T>(divide(dividend.lower, x.number.lower), divide(dividend.upper, x.number.upper));
+        if constexpr (std::is_signed_v<T>) return AndNot(BitCast<T>(y == Zero<T>()), rounded);
+        return rounded;
+    }
+};
 
 // Integers in the lower bits of doubles, negative ones as their complement.
 PXL_INLINE Vec<uint64_t> lowerBits(Vec<double> integers) {
@@ -37,36 +65,31 @@ PXL_INLINE Vec<double> Floor(Vec<double> v) {
     return nearest - (BitCast<double>(nearest > v) & Set<double>(1));
 }
 
-template <class T>
-PXL_INLINE Vec<uint64_t> roundTo(std::integral_constant<int, PXL_ROUND_NEAR_EVEN>, Vec<double> q) {
-    return lowerBits(q);
-}
 template <class T, int Mode>
-PXL_INLINE Vec<uint64_t> roundTo(std::integral_constant<int, Mode>, Vec<double> q) {
-    const Vec<double> half = Set<double>(Mode == PXL_ROUND_HALF_AWAY ? 0.5 : 0);
-    if constexpr (std::is_unsigned_v<T>) return lowerBits(Floor(q + half));
-    const Vec<double> sign = q & Set<double>(-0.0);
-    return lowerBits(Floor((q ^ sign) + half) | sign);
-}
-
-template <class T, int Mode>
-struct RoundBy {
-    template <class Real>
-    PXL_INLINE auto operator()(Vec<Real> q) const {
-        Vec<Real> limited = AtMost(highestOf<T>, q);
+struct RoundDouble {
+    PXL_INLINE Vec<uint64_t> operator()(Vec<double> q) const {
+        Vec<double> limited = AtMost(highestOf<T>, q);
         if constexpr (std::is_signed_v<T>) limited = AtLeast(lowestOf<T>, limited);
-        return roundTo<T>(std::integral_constant<int, Mode>{}, limited);
+        if constexpr (Mode == PXL_ROUND_NEAR_EVEN) return lowerBits(limited);
+        const Vec<double> half = Set<double>(Mode == PXL_ROUND_HALF_AWAY ? 0.5 : 0);
+        if constexpr (std::is_unsigned_v<T>) return lowerBits(Floor(limited + half));
+        const Vec<double> sign = limited & Set<double>(-0.0);
+        return lowerBits(Floor((limited ^ sign) + half) | sign);
     }
 };
 
 // From 18 up all quotients come to 0, from -33 down all but 0 saturate.
 template <class T, int Mode>
 PxlStatus divideRounded(const pointwise::TwoSources& operands, int scaleFactor) {
-    using Round = RoundBy<T, Mode>;
-    if constexpr (sizeof(T) > 1)
-        if (scaleFactor < 0)
-            return pointwise::run<T>(operands, RealQuotient<T, double, Round>(factorOf<double>(scaleFactor, -33, 0)));
-    return pointwise::run<T>(operands, RealQuotient<T, float, Round>(factorOf<float>(scaleFactor, -33, 18)));
+    if constexpr (sizeof(T) == 1) {
+        const float factor = factorOf<float>(scaleFactor, -33, 18);
+        return pointwise::run<T>(operands, RealQuotient<T, float, RoundByte<Mode>>(factor));
+    } else if (scaleFactor < 0) {
+        const double factor = factorOf<double>(scaleFactor, -33, 0);
+        return pointwise::run<T>(operands, RealQuotient<T, double, RoundDouble<T, Mode>>(factor));
+    } else {
+        return pointwise::run<T>(operands, RoundedQuotient<T, Mode>{{}, factorOf<float>(scaleFactor, 0, 18)});
+    }
 }
 
 template <class T, int Elements, int Channels>

@@ -7,6 +7,7 @@
 
 #include "arith/division.h"
 #include "arith/fields.h"
+#include "frame/vec/arithmetic.h"
 
 namespace pxl::PXL_TARGET::arith {
 
@@ -111,13 +112,12 @@ struct ByteQuotient : Quotient {
 
 // q + 32768 + 0.5 in single precision, truncated, a tie to even, minus 32768. The first addition rounds to what single
 // precision has at that place, a multiple of 2^-8 for q >= 0; what is left to do then is rounding to nearest.
-struct RoundShort {
-    PXL_INLINE Vec<uint32_t> operator()(Vec<float> q) const {
-        const Vec<float> limited = AtLeast(-32768, AtMost(32767, q));
-        return BitCast<uint32_t>(NearestInt(RoundToGrid(limited, 32768)));
-    }
-};
-using ScaledShortQuotient = RealQuotient<int16_t, float, RoundShort>;
+
+// Quotients from -32768 up, in the order of BlockNumbers.
+PXL_INLINE Vec<int16_t> roundShorts(Vec<float> lower, Vec<float> upper) {
+    const auto round = [](Vec<float> q) { return NearestInt(q + Set<float>(32768)); };
+    return BitCast<int16_t>(ReorderDemote2To<uint16_t>(round(lower), round(upper)) ^ Set<uint16_t>(0x8000));
+}
 
 // scaleFactor 0: only -32768 / -1 is outside the range, and saturates when it is packed. In place of x = 0 stands
 // 2^-16, which makes the quotient 0 or takes it far enough.
@@ -133,10 +133,28 @@ struct ShortQuotient : Quotient {
     }
     PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> y, const Divisor& x) const {
         const BlockNumbers dividend(y, Zero<uint16_t>());
-        const auto round = [](Vec<float> q) { return NearestInt(q + Set<float>(32768)); };
-        const Vec<int32_t> lower = round(dividend.lower / x.number.lower),
-                           upper = round(dividend.upper / x.number.upper);
-        return BitCast<int16_t>(ReorderDemote2To<uint16_t>(lower, upper) ^ Set<uint16_t>(0x8000));
+        return roundShorts(dividend.lower / x.number.lower, dividend.upper / x.number.upper);
+    }
+};
+
+// Other scale factors. What is far below the range saturates when it is converted and packed.
+struct ScaledShortQuotient : Quotient {
+    using Divisor = ShortQuotient::Divisor;
+    float factor;
+
+    explicit ScaledShortQuotient(float f) : factor(f) {}
+
+    PXL_INLINE Divisor prepare(Vec<int16_t> x) const {
+        return {BlockNumbers(x, Zero<uint16_t>()), x == Zero<int16_t>()};
+    }
+    PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> y, const Divisor& x) const {
+        const BlockNumbers dividend(y, Zero<uint16_t>());
+        const auto divide = [&](Vec<float> number, Vec<float> by) {
+            return AtMost(32768, number * Set<float>(factor) / by);
+        };
+        const Vec<int16_t> rounded =
+            roundShorts(divide(dividend.lower, x.number.lower), divide(dividend.upper, x.number.upper));
+        return AndNot(BitCast<int16_t>(y == Zero<int16_t>()), rounded); // 0 / 0
     }
 };
 
@@ -172,23 +190,85 @@ struct WordQuotient : Quotient {
     }
 };
 
-// Other scale factors, in double precision: quotients are rounded to multiples of 2^-15, ties to even, and then to
-// nearest. The first step makes ties of all that are less than 2^-16 away from one, and of those just 2^-16 away, which
-// is right below a tie with an odd integer and wrong above one with an even integer. Such quotients come with
-// scaleFactor > 0 only. There the factor is larger by 2^-36 of it, which moves them up, and is too little to take any
-// other quotient across: those are 2^-32 of it away from such a place.
+// x = 0: the infinities are 65535, and NaN comes to 0 where 32-bit numbers are packed.
+PXL_INLINE Vec<float> limitWord(Vec<float> q) { return AtMost(65536, q); }
+
+// scaleFactor from 1 to 17. As above; x * 2^scaleFactor is even, so ties are just the true ones, but above 65536, where
+// quotients are below 1, the one next to 1/2 counts as one.
+struct LoweredWordQuotient : Quotient {
+    struct Divisor {
+        BlockNumbers number;
+        Vec<uint16_t> half;
+        Mask<uint16_t> close, zero;
+    };
+    float factor;
+    int shift;           // of the half
+    uint16_t low, range; // of divisors with close quotients
+    Mask<uint16_t> any;  // whether there are some
+
+    explicit LoweredWordQuotient(int scaleFactor)
+        : factor(factorOf<float>(scaleFactor, 1, 17)), shift(scaleFactor - 1),
+          low(static_cast<uint16_t>((65536 >> scaleFactor) + 1)),
+          range(static_cast<uint16_t>((131069 >> scaleFactor) - low)),
+          any(Set<uint16_t>(scaleFactor < 16 ? 0xFFFF : 0)) {}
+
+    PXL_INLINE Divisor prepare(Vec<uint16_t> x) const {
+        const Vec<uint16_t> above = x - Set<uint16_t>(low);
+        return {BlockNumbers(x), ShiftLeftSame(x, shift), any & (Min(above, Set<uint16_t>(range)) == above),
+                x == Zero<uint16_t>()};
+    }
+    PXL_INLINE Vec<uint16_t> operator()(Vec<uint16_t> y, const Divisor& x) const {
+        const BlockNumbers dividend(y);
+        const auto divide = [&](Vec<float> number, Vec<float> by) {
+            return NearestInt(limitWord(number * Set<float>(factor) / by));
+        };
+        const auto quotients =
+            ReorderDemote2To<uint16_t>(divide(dividend.lower, x.number.lower), divide(dividend.upper, x.number.upper));
+        return quotients + (x.close & (y - x.half == Set<uint16_t>(1)));
+    }
+};
+
+// scaleFactor from -8 to -1. The dividend is less than 2^24, so the quotient in single precision, cut to an integer, is never
+// above the true one, and one below it only where that is an integer. The remainder, which lower halves of dividend and
+// product have, tells whether it goes up: where it is larger than `even`, or than even - between where the quotient is odd.
+// For odd x half of it is no tie, but above 32768 both neighbours of the half are.
+struct RaisedWordQuotient : Quotient {
+    struct Divisor {
+        BlockNumbers number;
+        Vec<uint16_t> x, even, between;
+        Mask<uint16_t> zero;
+    };
+    float factor;
+    int shift; // of the dividend
+
+    explicit RaisedWordQuotient(int scaleFactor) : factor(factorOf<float>(scaleFactor, -8, -1)), shift(-scaleFactor) {}
+
+    PXL_INLINE Divisor prepare(Vec<uint16_t> x) const {
+        const Vec<uint16_t> one = Set<uint16_t>(1), odd = x & one, close = odd & ShiftRight<15>(x);
+        return {BlockNumbers(x), x, ShiftRight<1>(x) + close, (one - odd) + close + close, x == Zero<uint16_t>()};
+    }
+    PXL_INLINE Vec<uint16_t> operator()(Vec<uint16_t> y, const Divisor& x) const {
+        const BlockNumbers dividend(y);
+        const auto divide = [&](Vec<float> number, Vec<float> by) {
+            return TruncateToInt(limitWord(number * Set<float>(factor) / by));
+        };
+        const auto q =
+            ReorderDemote2To<uint16_t>(divide(dividend.lower, x.number.lower), divide(dividend.upper, x.number.upper));
+        const Vec<uint16_t> one = Set<uint16_t>(1), remainder = ShiftLeftSame(y, shift) - q * x.x;
+        const Vec<uint16_t> up = Min(SaturatedSub(remainder, x.even - (q & one) * x.between), one);
+        return SaturatedAdd(q, AndNot(x.zero, up));
+    }
+};
+
+// What is left, in double precision: quotients are rounded to multiples of 2^-15, ties to even, and then to nearest. The first
+// step makes ties of all that are less than 2^-16 away from one; those just 2^-16 away from one come with scaleFactor > 0 only.
 struct RoundWord {
     PXL_INLINE Vec<uint64_t> operator()(Vec<double> q) const {
         const Vec<double> snapped = RoundToGrid(AtMost(65535, q), unitsAtEnd / 32768);
         return BitCast<uint64_t>(snapped + Set<double>(unitsAtEnd));
     }
 };
-using ScaledWordQuotient = RealQuotient<uint16_t, double, RoundWord>;
-
-inline double wordFactorOf(int scaleFactor) {
-    const double factor = factorOf<double>(scaleFactor, -32, 17);
-    return scaleFactor > 0 ? factor * (1 + 1.0 / (uint64_t{1} << 36)) : factor;
-}
+using FarWordQuotient = RealQuotient<uint16_t, double, RoundWord>;
 
 // ---- regions --------------------------------------------------------------------------------------------------------
 
@@ -201,7 +281,9 @@ PXL_INLINE auto withQuotient(int scaleFactor, Apply&& apply) {
         return apply(ScaledByteQuotient(factorOf<float>(scaleFactor, -16, 9)));
     } else if constexpr (std::is_same_v<L, uint16_t>) {
         if (scaleFactor == 0) return apply(WordQuotient{});
-        return apply(ScaledWordQuotient(wordFactorOf(scaleFactor)));
+        if (scaleFactor < -8) return apply(FarWordQuotient(factorOf<double>(scaleFactor, -32, -9)));
+        if (scaleFactor < 0) return apply(RaisedWordQuotient(scaleFactor));
+        return apply(LoweredWordQuotient(scaleFactor < 17 ? scaleFactor : 17));
     } else {
         if (scaleFactor == 0) return apply(ShortQuotient{});
         return apply(ScaledShortQuotient(factorOf<float>(scaleFactor, -31, 17)));

@@ -172,7 +172,7 @@ private:
 template <class L, class Op>
 struct ConstantResults {
     using Lane = L;
-    static constexpr bool isConstant = true, isUnrolled = false, isStreamed = false;
+    static constexpr bool isConstant = true, isUnrolled = true, isStreamed = false;
     const L *a, *b;
     const PreparedConstants<L, Op>& constants;
     Op op;
@@ -183,7 +183,7 @@ struct ConstantResults {
           constants(*static_cast<const PreparedConstants<L, Op>*>(plan.op)), op(constants.op) {}
 
     PXL_INLINE Vec<L> of(ptrdiff_t x, ptrdiff_t v) const { return op(LoadU(a + x), *constants.vectors[v]); }
-    PXL_INLINE Vec<L> at(ptrdiff_t x) const { return of(x, vector); }
+    PXL_INLINE Vec<L> at(ptrdiff_t x, ptrdiff_t o = 0) const { return of(x, vector + o / lanes<L>); }
     PXL_INLINE void next() { vector = vector < 2 ? vector + 1 : 0; }
     PXL_INLINE Vec<L> inPixels(ptrdiff_t x, ptrdiff_t o, Mask<L>) const { return of(x, o / lanes<L>); }
     PXL_INLINE Vec<L> atEnd(const RowEnd<L>& end) const {
@@ -195,7 +195,6 @@ struct ConstantResults {
 // The same for short operations, with the constants in registers, if there are enough.
 template <class L, class Op>
 struct ShortConstantResults : ConstantResults<L, Op> {
-    static constexpr bool isUnrolled = true;
     PreparedBy<Op, L> first, second, third;
 
     PXL_INLINE ShortConstantResults(const void* from, const void* with, const RowPlan& plan)

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <cstring>
 #include <limits>
+#include <numeric>
 #include <vector>
 
 #include "pxli.h"
@@ -131,6 +132,58 @@ TEST(Corners, Of16u) {
 TEST(Corners, Of16s) {
     checkCorners<int16_t>("16s", pxliAdd_16s_C1RSfs, pxliSub_16s_C1RSfs, pxliMul_16s_C1RSfs, pxliDiv_16s_C1RSfs,
                           pxliDiv_Round_16s_C1RSfs);
+}
+
+// All dividends by four constants, one for each channel.
+template <class T>
+void checkConstants(const char* type, PxlStatus (*divide)(const T*, int, const T*, T*, int, ImageSize, int),
+                    const std::vector<int>& constants, const std::vector<int>& scaleFactors) {
+    constexpr size_t values = size_t{1} << 8 * sizeof(T), channels = 4;
+    constexpr int step = static_cast<int>(values * channels * sizeof(T));
+    std::vector<T> dividends(values * channels), expected(dividends.size()), actual(dividends.size());
+    for (size_t i = 0; i < dividends.size(); ++i) dividends[i] = static_cast<T>(i / channels);
+    for (size_t first = 0; first < constants.size(); first += channels) {
+        T four[channels];
+        for (size_t c = 0; c < channels; ++c) four[c] = static_cast<T>(constants[(first + c) % constants.size()]);
+        for (const int scaleFactor : scaleFactors) {
+            reference::Arg args[7];
+            args[0].ptr = dividends.data(), args[2].ptr = four, args[3].ptr = expected.data();
+            args[1].num = args[4].num = step;
+            args[5].width = static_cast<int32_t>(values), args[5].height = 1;
+            args[6].num = scaleFactor;
+            reference::find("DivC")({"", "DivC", type, type, "C4", "RSfs"}, args);
+            for (const pxl::KnownTarget& target : availableTargets()) {
+                const TargetScope scope(target);
+                EXPECT_EQ(divide(dividends.data(), step, four, actual.data(), step, {static_cast<int>(values), 1},
+                                 scaleFactor),
+                          PXL_OK);
+                const auto at = static_cast<size_t>(std::ranges::mismatch(expected, actual).in1 - expected.begin());
+                ASSERT_EQ(at, expected.size())
+                    << target.name << " " << type << " scaleFactor " << scaleFactor << ": " << +dividends[at] << " / "
+                    << +four[at % channels] << " gives " << +actual[at] << " instead of " << +expected[at];
+            }
+        }
+    }
+}
+
+TEST(ConstantDivision, Of8u) {
+    std::vector<int> constants(255), scaleFactors(28);
+    std::iota(constants.begin(), constants.end(), 1);
+    std::iota(scaleFactors.begin(), scaleFactors.end(), -17);
+    checkConstants<uint8_t>("8u", pxliDivC_8u_C4RSfs, constants, scaleFactors);
+}
+// Among them divisors whose quotients come near to ties, and those on both sides of every limit.
+const std::vector<int> constants16{1,    2,    3,    5,    7,    10,   255,  256,   257,   510,   511,   767,   1000,
+                                   1535, 1536, 2559, 3070, 3584, 4095, 7680, 10239, 21845, 26214, 32767, 32768, 31231};
+TEST(ConstantDivision, Of16u) {
+    std::vector<int> constants = constants16;
+    for (const int large : {32769, 32770, 40001, 43690, 43691, 65533, 65534, 65535}) constants.push_back(large);
+    checkConstants<uint16_t>("16u", pxliDivC_16u_C4RSfs, constants, {-33, -16, -9, -8, -1, 0, 1, 2, 8, 15, 16, 17});
+}
+TEST(ConstantDivision, Of16s) {
+    std::vector<int> constants = constants16;
+    for (const int c : constants16) constants.push_back(-c);
+    checkConstants<int16_t>("16s", pxliDivC_16s_C4RSfs, constants, {-33, -8, -1, 0, 1, 2, 8, 15, 17});
 }
 
 // The one imaginary sum that does not fit 32 bits, and products near the ends of 64 bits.
