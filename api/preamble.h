@@ -123,6 +123,15 @@ enum {
     PXL_AXIS_BOTH = 2        /* rotation by 180 degrees */
 };
 
+typedef int32_t PxlCmpOp; /* a is the pixel, b the threshold or the second operand */
+enum {
+    PXL_CMP_LESS = 0,       /* a < b */
+    PXL_CMP_LESS_EQ = 1,    /* a <= b */
+    PXL_CMP_EQ = 2,         /* a == b */
+    PXL_CMP_GREATER_EQ = 3, /* a >= b */
+    PXL_CMP_GREATER = 4     /* a > b */
+};
+
 /* ---- Status codes ------------------------------------------------------------------------------------------------ */
 
 /* 0 success, negative errors (nothing was written), positive warnings (the result is complete). Behind a code stand in

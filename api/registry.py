@@ -14,6 +14,7 @@ SUBSYSTEMS = [  # header order
     ("frame", "Version and image memory"),
     ("exchange", "Data exchange"),
     ("arith", "Arithmetic and logic"),
+    ("threshold", "Threshold, compare, lookup"),
     ("filter", "Filters"),
 ]
 LAYOUTS = {  # names that stand for several layouts; modes follow them: "pixels R IR"

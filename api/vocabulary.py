@@ -24,6 +24,7 @@ An argument word is  kind[:TYPE][:name]  with additions, and expands to one C pa
   values
     value[:TYPE[:NAME]]    a scalar for one processed channel, else an array of one per processed channel
     shift:NAME             counts of bits in the same way
+    lowest:NAME highest:NAME   the ends of a range of values in the same way
     element[:TYPE]:NAME    one element, of the destination type
     order:N                N channel indices, dstOrder
   arrays; TYPE is an element type, S or D (the member's), int, or a C type
@@ -183,7 +184,7 @@ def expand(word, member):
     if kind in GEOMETRY:
         ctype, role, meaning = GEOMETRY[kind]
         return [Param(ctype, name, role, meaning=meaning)]
-    if kind in ("value", "shift", "count"):
+    if kind in ("value", "shift", "count", "lowest", "highest"):
         return [_per_channel(kind, rest, member)]
     if kind == "element":
         ctype, element = _type(rest[0] if len(rest) > 1 else "D", member)
@@ -240,11 +241,11 @@ def _image(base, name, flag, region, member):
 
 
 def _per_channel(kind, rest, member):
-    """value[:TYPE[:NAME]], shift:NAME, count:NAME"""
+    """value[:TYPE[:NAME]], shift:NAME, count:NAME, lowest:NAME, highest:NAME"""
     side = member.dst_side
-    meaning = {"shift": "Shift", "count": "Count"}.get(kind, "None")
+    meaning = {"shift": "Shift", "count": "Count", "lowest": "RangeLow", "highest": "RangeHigh"}.get(kind, "None")
     name = rest[-1] if rest else kind
-    ctype, element = _type({"shift": "32u", "count": "int"}.get(kind) or (rest[0] if rest else "D"), member)
+    ctype, element = _type({"value": rest[0] if rest else "D", "shift": "32u", "count": "int"}.get(kind, "S"), member)
     if side.channels * max(side.planes, 1) == 1:
         role = "Integer" if kind == "count" else "Element"
         return Param(ctype, name, role, element=element, count="1", per_channel=True, meaning=meaning)

@@ -5,7 +5,8 @@
 // and answers with the shortest time of a call in nanoseconds, or with "-" where the call was not accepted. STEPS is `wide` for
 // rows that begin at multiples of 64 bytes, `tight` for rows that follow each other at any address. NUMBER is the scale factor,
 // where there is one. members.py runs two of these, each with a library of its own, and lets them take turns.
-#include <chrono>
+#include <algorithm>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <ctime>
@@ -94,6 +95,7 @@ private:
         case Meaning::Count:
             return 8;
         default:
+            if (p.valid.among) return std::countr_zero(p.valid.among);
             return p.valid.limited ? static_cast<int64_t>((p.valid.low + p.valid.high) / 2) : 3;
         }
     }

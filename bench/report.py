@@ -48,6 +48,9 @@ SECTIONS = {
         "logical": "Bitwise operations",
         "shift": "Shifts",
     },
+    "Threshold, compare, lookup": {
+        "threshold": "Thresholds",
+    },
     "Filters": {
         "filter": "Linear filters",
         "box": "Box filters",

@@ -13,7 +13,7 @@ if(PXL_TARGETS STREQUAL "all")
     set(PXL_TARGETS ${PXL_KNOWN_TARGETS}) # of this scope alone, so that new ones reach builds that are configured already
 endif()
 
-set(PXL_SUBSYSTEMS exchange arith filter)
+set(PXL_SUBSYSTEMS exchange arith threshold filter)
 set(PXL_FAMILIES)
 foreach(subsystem IN LISTS PXL_SUBSYSTEMS)
     file(GLOB sources CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR} ${subsystem}/*.cpp)

@@ -123,6 +123,15 @@ enum {
     PXL_AXIS_BOTH = 2        /* rotation by 180 degrees */
 };
 
+typedef int32_t PxlCmpOp; /* a is the pixel, b the threshold or the second operand */
+enum {
+    PXL_CMP_LESS = 0,       /* a < b */
+    PXL_CMP_LESS_EQ = 1,    /* a <= b */
+    PXL_CMP_EQ = 2,         /* a == b */
+    PXL_CMP_GREATER_EQ = 3, /* a >= b */
+    PXL_CMP_GREATER = 4     /* a > b */
+};
+
 /* ---- Status codes ------------------------------------------------------------------------------------------------ */
 
 /* 0 success, negative errors (nothing was written), positive warnings (the result is complete). Behind a code stand in
@@ -150,7 +159,7 @@ enum {
     PXL_E_FFT_ORDER = -15,             /* a transform order outside 0..30 */
     PXL_E_FFT_FLAG = -16,              /* an unknown normalisation flag */
     PXL_E_CONTEXT = -17,               /* a prepared object of another kind */
-    PXL_E_THRESHOLD = -18,             /* a lower threshold above its upper threshold */
+    PXL_E_THRESHOLD = -18,             /* a lower threshold above its upper threshold (Threshold_LTValGTVal) */
     PXL_E_MOMENT_ZERO = -20,           /* the zeroth moment is zero */
     PXL_E_MIRROR_AXIS = -21,           /* an axis other than 0, 1 or 2 (Mirror) */
     PXL_E_INTERPOLATION = -22,         /* an interpolation that the function does not accept */
@@ -182,7 +191,8 @@ enum {
     PXL_E_DECIMATE_FRACTION = -212,    /* an unknown decimation fraction */
     PXL_E_ROUND_MODE = -213,           /* a rounding mode other than 0, 1 or 2 (Div_Round, Filter_Round16s,
                                           Filter_Round32s, Filter_Round32f) */
-    PXL_E_NOT_SUPPORTED_MODE = -9999   /* an enumerated mode that the function does not support */
+    PXL_E_NOT_SUPPORTED_MODE = -9999   /* an enumerated mode that the function does not support (Threshold,
+                                          Threshold_Val) */
 };
 
 /* ==== Version and image memory ==================================================================================== */
@@ -2532,6 +2542,471 @@ PxlStatus pxliRShiftC_32s_C1IR(uint32_t count, int32_t* srcDst, int srcDstStep, 
 PxlStatus pxliRShiftC_32s_C3IR(const uint32_t count[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliRShiftC_32s_C4IR(const uint32_t count[4], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
 PxlStatus pxliRShiftC_32s_AC4IR(const uint32_t count[3], int32_t* srcDst, int srcDstStep, ImageSize roiSize);
+
+/* ==== Threshold, compare, lookup ================================================================================== */
+
+/* ---------------------------------------------------------------------------------------------------------------------
+ * Threshold (threshold/threshold.cpp)
+ *
+ * dst = threshold where src cmpOp threshold, else src, with one threshold per channel: a number for C1, an array of 3
+ * for C3 and AC4, of 4 for C4. cmpOp is PXL_CMP_LESS or PXL_CMP_GREATER. The comparison is strict and ordered: a pixel
+ * equal to its threshold stays, and so does NaN. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NOT_SUPPORTED_MODE  cmpOp is neither PXL_CMP_LESS nor PXL_CMP_GREATER
+ *   PXL_E_NULL_PTR            a pointer is null
+ *   PXL_E_SIZE                roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP                a step < 1
+ *   PXL_E_NULL_PTR            an array of thresholds or values is null
+ */
+PxlStatus pxliThreshold_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    uint8_t threshold, PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t threshold[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t threshold[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold, PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t threshold[3],
+    PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t threshold[3],
+    PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    uint16_t threshold, PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const uint16_t threshold[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const uint16_t threshold[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, uint16_t threshold,
+    PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t threshold[3],
+    PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t threshold[3],
+    PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    int16_t threshold, PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int16_t threshold[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int16_t threshold[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int16_t threshold, PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t threshold[3],
+    PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t threshold[3],
+    PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    float threshold, PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float threshold[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float threshold[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, float threshold, PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float threshold[3],
+    PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float threshold[3],
+    PxlCmpOp cmpOp);
+
+/* ---------------------------------------------------------------------------------------------------------------------
+ * Threshold_GT (threshold/threshold.cpp)
+ *
+ * dst = threshold where src > threshold, else src, with one threshold per channel: a number for C1, an array of 3 for
+ * C3 and AC4, of 4 for C4. The comparison is strict and ordered: a pixel equal to its threshold stays, and so does NaN.
+ * AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_NULL_PTR  an array of thresholds or values is null
+ */
+PxlStatus pxliThreshold_GT_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    uint8_t threshold);
+PxlStatus pxliThreshold_GT_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t threshold[3]);
+PxlStatus pxliThreshold_GT_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t threshold[3]);
+PxlStatus pxliThreshold_GT_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold);
+PxlStatus pxliThreshold_GT_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t threshold[3]);
+PxlStatus pxliThreshold_GT_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t threshold[3]);
+PxlStatus pxliThreshold_GT_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    uint16_t threshold);
+PxlStatus pxliThreshold_GT_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const uint16_t threshold[3]);
+PxlStatus pxliThreshold_GT_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const uint16_t threshold[3]);
+PxlStatus pxliThreshold_GT_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, uint16_t threshold);
+PxlStatus pxliThreshold_GT_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t threshold[3]);
+PxlStatus pxliThreshold_GT_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t threshold[3]);
+PxlStatus pxliThreshold_GT_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    int16_t threshold);
+PxlStatus pxliThreshold_GT_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int16_t threshold[3]);
+PxlStatus pxliThreshold_GT_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int16_t threshold[3]);
+PxlStatus pxliThreshold_GT_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int16_t threshold);
+PxlStatus pxliThreshold_GT_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t threshold[3]);
+PxlStatus pxliThreshold_GT_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t threshold[3]);
+PxlStatus pxliThreshold_GT_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    float threshold);
+PxlStatus pxliThreshold_GT_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float threshold[3]);
+PxlStatus pxliThreshold_GT_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float threshold[3]);
+PxlStatus pxliThreshold_GT_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, float threshold);
+PxlStatus pxliThreshold_GT_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float threshold[3]);
+PxlStatus pxliThreshold_GT_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float threshold[3]);
+
+/* ---------------------------------------------------------------------------------------------------------------------
+ * Threshold_LT (threshold/threshold.cpp)
+ *
+ * dst = threshold where src < threshold, else src, with one threshold per channel: a number for C1, an array of 3 for
+ * C3 and AC4, of 4 for C4. The comparison is strict and ordered: a pixel equal to its threshold stays, and so does NaN.
+ * AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_NULL_PTR  an array of thresholds or values is null
+ */
+PxlStatus pxliThreshold_LT_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    uint8_t threshold);
+PxlStatus pxliThreshold_LT_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t threshold[3]);
+PxlStatus pxliThreshold_LT_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t threshold[3]);
+PxlStatus pxliThreshold_LT_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold);
+PxlStatus pxliThreshold_LT_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t threshold[3]);
+PxlStatus pxliThreshold_LT_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t threshold[3]);
+PxlStatus pxliThreshold_LT_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    uint16_t threshold);
+PxlStatus pxliThreshold_LT_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const uint16_t threshold[3]);
+PxlStatus pxliThreshold_LT_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const uint16_t threshold[3]);
+PxlStatus pxliThreshold_LT_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, uint16_t threshold);
+PxlStatus pxliThreshold_LT_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t threshold[3]);
+PxlStatus pxliThreshold_LT_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t threshold[3]);
+PxlStatus pxliThreshold_LT_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    int16_t threshold);
+PxlStatus pxliThreshold_LT_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int16_t threshold[3]);
+PxlStatus pxliThreshold_LT_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int16_t threshold[3]);
+PxlStatus pxliThreshold_LT_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int16_t threshold);
+PxlStatus pxliThreshold_LT_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t threshold[3]);
+PxlStatus pxliThreshold_LT_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t threshold[3]);
+PxlStatus pxliThreshold_LT_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    float threshold);
+PxlStatus pxliThreshold_LT_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float threshold[3]);
+PxlStatus pxliThreshold_LT_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float threshold[3]);
+PxlStatus pxliThreshold_LT_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, float threshold);
+PxlStatus pxliThreshold_LT_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float threshold[3]);
+PxlStatus pxliThreshold_LT_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float threshold[3]);
+
+/* ---------------------------------------------------------------------------------------------------------------------
+ * Threshold_Val (threshold/threshold.cpp)
+ *
+ * dst = value where src cmpOp threshold, else src, with one threshold per channel: a number for C1, an array of 3 for
+ * C3 and AC4, of 4 for C4; values likewise. cmpOp is PXL_CMP_LESS or PXL_CMP_GREATER. The comparison is strict and
+ * ordered: a pixel equal to its threshold stays, and so does NaN. AC4: elements 0..2; element 3 of the destination
+ * keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NOT_SUPPORTED_MODE  cmpOp is neither PXL_CMP_LESS nor PXL_CMP_GREATER
+ *   PXL_E_NULL_PTR            a pointer is null
+ *   PXL_E_SIZE                roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP                a step < 1
+ *   PXL_E_NULL_PTR            an array of thresholds or values is null
+ */
+PxlStatus pxliThreshold_Val_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    uint8_t threshold, uint8_t value, PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t threshold[3], const uint8_t value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t threshold[3], const uint8_t value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold,
+    uint8_t value, PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t threshold[3],
+    const uint8_t value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t threshold[3],
+    const uint8_t value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    uint16_t threshold, uint16_t value, PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const uint16_t threshold[3], const uint16_t value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const uint16_t threshold[3], const uint16_t value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, uint16_t threshold,
+    uint16_t value, PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t threshold[3],
+    const uint16_t value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t threshold[3],
+    const uint16_t value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    int16_t threshold, int16_t value, PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int16_t threshold[3], const int16_t value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int16_t threshold[3], const int16_t value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int16_t threshold,
+    int16_t value, PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t threshold[3],
+    const int16_t value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t threshold[3],
+    const int16_t value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    float threshold, float value, PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float threshold[3], const float value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float threshold[3], const float value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, float threshold, float value,
+    PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float threshold[3],
+    const float value[3], PxlCmpOp cmpOp);
+PxlStatus pxliThreshold_Val_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float threshold[3],
+    const float value[3], PxlCmpOp cmpOp);
+
+/* ---------------------------------------------------------------------------------------------------------------------
+ * Threshold_GTVal (threshold/threshold.cpp)
+ *
+ * dst = value where src > threshold, else src, with one threshold per channel: a number for C1, an array of 3 for C3
+ * and AC4, of 4 for C4; values likewise. The comparison is strict and ordered: a pixel equal to its threshold stays,
+ * and so does NaN. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_NULL_PTR  an array of thresholds or values is null
+ */
+PxlStatus pxliThreshold_GTVal_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    uint8_t threshold, uint8_t value);
+PxlStatus pxliThreshold_GTVal_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t threshold[3], const uint8_t value[3]);
+PxlStatus pxliThreshold_GTVal_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t threshold[4], const uint8_t value[4]);
+PxlStatus pxliThreshold_GTVal_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t threshold[3], const uint8_t value[3]);
+PxlStatus pxliThreshold_GTVal_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold,
+    uint8_t value);
+PxlStatus pxliThreshold_GTVal_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t threshold[3],
+    const uint8_t value[3]);
+PxlStatus pxliThreshold_GTVal_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t threshold[4],
+    const uint8_t value[4]);
+PxlStatus pxliThreshold_GTVal_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t threshold[3],
+    const uint8_t value[3]);
+PxlStatus pxliThreshold_GTVal_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    uint16_t threshold, uint16_t value);
+PxlStatus pxliThreshold_GTVal_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const uint16_t threshold[3], const uint16_t value[3]);
+PxlStatus pxliThreshold_GTVal_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const uint16_t threshold[4], const uint16_t value[4]);
+PxlStatus pxliThreshold_GTVal_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const uint16_t threshold[3], const uint16_t value[3]);
+PxlStatus pxliThreshold_GTVal_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, uint16_t threshold,
+    uint16_t value);
+PxlStatus pxliThreshold_GTVal_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t threshold[3],
+    const uint16_t value[3]);
+PxlStatus pxliThreshold_GTVal_16u_C4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t threshold[4],
+    const uint16_t value[4]);
+PxlStatus pxliThreshold_GTVal_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    const uint16_t threshold[3], const uint16_t value[3]);
+PxlStatus pxliThreshold_GTVal_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    int16_t threshold, int16_t value);
+PxlStatus pxliThreshold_GTVal_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int16_t threshold[3], const int16_t value[3]);
+PxlStatus pxliThreshold_GTVal_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int16_t threshold[4], const int16_t value[4]);
+PxlStatus pxliThreshold_GTVal_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int16_t threshold[3], const int16_t value[3]);
+PxlStatus pxliThreshold_GTVal_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int16_t threshold,
+    int16_t value);
+PxlStatus pxliThreshold_GTVal_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t threshold[3],
+    const int16_t value[3]);
+PxlStatus pxliThreshold_GTVal_16s_C4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t threshold[4],
+    const int16_t value[4]);
+PxlStatus pxliThreshold_GTVal_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t threshold[3],
+    const int16_t value[3]);
+PxlStatus pxliThreshold_GTVal_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    float threshold, float value);
+PxlStatus pxliThreshold_GTVal_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float threshold[3], const float value[3]);
+PxlStatus pxliThreshold_GTVal_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float threshold[4], const float value[4]);
+PxlStatus pxliThreshold_GTVal_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float threshold[3], const float value[3]);
+PxlStatus pxliThreshold_GTVal_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, float threshold, float value);
+PxlStatus pxliThreshold_GTVal_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float threshold[3],
+    const float value[3]);
+PxlStatus pxliThreshold_GTVal_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float threshold[4],
+    const float value[4]);
+PxlStatus pxliThreshold_GTVal_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float threshold[3],
+    const float value[3]);
+
+/* ---------------------------------------------------------------------------------------------------------------------
+ * Threshold_LTVal (threshold/threshold.cpp)
+ *
+ * dst = value where src < threshold, else src, with one threshold per channel: a number for C1, an array of 3 for C3
+ * and AC4, of 4 for C4; values likewise. The comparison is strict and ordered: a pixel equal to its threshold stays,
+ * and so does NaN. AC4: elements 0..2; element 3 of the destination keeps its value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP      a step < 1
+ *   PXL_E_NULL_PTR  an array of thresholds or values is null
+ */
+PxlStatus pxliThreshold_LTVal_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    uint8_t threshold, uint8_t value);
+PxlStatus pxliThreshold_LTVal_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t threshold[3], const uint8_t value[3]);
+PxlStatus pxliThreshold_LTVal_8u_C4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t threshold[4], const uint8_t value[4]);
+PxlStatus pxliThreshold_LTVal_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t threshold[3], const uint8_t value[3]);
+PxlStatus pxliThreshold_LTVal_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t threshold,
+    uint8_t value);
+PxlStatus pxliThreshold_LTVal_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t threshold[3],
+    const uint8_t value[3]);
+PxlStatus pxliThreshold_LTVal_8u_C4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t threshold[4],
+    const uint8_t value[4]);
+PxlStatus pxliThreshold_LTVal_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, const uint8_t threshold[3],
+    const uint8_t value[3]);
+PxlStatus pxliThreshold_LTVal_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    uint16_t threshold, uint16_t value);
+PxlStatus pxliThreshold_LTVal_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const uint16_t threshold[3], const uint16_t value[3]);
+PxlStatus pxliThreshold_LTVal_16u_C4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const uint16_t threshold[4], const uint16_t value[4]);
+PxlStatus pxliThreshold_LTVal_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep, ImageSize roiSize,
+    const uint16_t threshold[3], const uint16_t value[3]);
+PxlStatus pxliThreshold_LTVal_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, uint16_t threshold,
+    uint16_t value);
+PxlStatus pxliThreshold_LTVal_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t threshold[3],
+    const uint16_t value[3]);
+PxlStatus pxliThreshold_LTVal_16u_C4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, const uint16_t threshold[4],
+    const uint16_t value[4]);
+PxlStatus pxliThreshold_LTVal_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    const uint16_t threshold[3], const uint16_t value[3]);
+PxlStatus pxliThreshold_LTVal_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    int16_t threshold, int16_t value);
+PxlStatus pxliThreshold_LTVal_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int16_t threshold[3], const int16_t value[3]);
+PxlStatus pxliThreshold_LTVal_16s_C4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int16_t threshold[4], const int16_t value[4]);
+PxlStatus pxliThreshold_LTVal_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep, ImageSize roiSize,
+    const int16_t threshold[3], const int16_t value[3]);
+PxlStatus pxliThreshold_LTVal_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int16_t threshold,
+    int16_t value);
+PxlStatus pxliThreshold_LTVal_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t threshold[3],
+    const int16_t value[3]);
+PxlStatus pxliThreshold_LTVal_16s_C4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t threshold[4],
+    const int16_t value[4]);
+PxlStatus pxliThreshold_LTVal_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, const int16_t threshold[3],
+    const int16_t value[3]);
+PxlStatus pxliThreshold_LTVal_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    float threshold, float value);
+PxlStatus pxliThreshold_LTVal_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float threshold[3], const float value[3]);
+PxlStatus pxliThreshold_LTVal_32f_C4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float threshold[4], const float value[4]);
+PxlStatus pxliThreshold_LTVal_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float threshold[3], const float value[3]);
+PxlStatus pxliThreshold_LTVal_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, float threshold, float value);
+PxlStatus pxliThreshold_LTVal_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float threshold[3],
+    const float value[3]);
+PxlStatus pxliThreshold_LTVal_32f_C4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float threshold[4],
+    const float value[4]);
+PxlStatus pxliThreshold_LTVal_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize, const float threshold[3],
+    const float value[3]);
+
+/* ---------------------------------------------------------------------------------------------------------------------
+ * Threshold_LTValGTVal (threshold/threshold.cpp)
+ *
+ * dst = valueGT where src > thresholdGT, valueLT where src < thresholdLT, else src, with one threshold per channel: a
+ * number for C1, an array of 3 for C3 and AC4, of 4 for C4; values likewise. The comparison is strict and ordered: a
+ * pixel equal to its threshold stays, and so does NaN. AC4: elements 0..2; element 3 of the destination keeps its
+ * value.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR   a pointer is null
+ *   PXL_E_SIZE       roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP       a step < 1
+ *   PXL_E_NULL_PTR   an array of thresholds or values is null
+ *   PXL_E_THRESHOLD  thresholdGT < thresholdLT in a channel
+ */
+PxlStatus pxliThreshold_LTValGTVal_8u_C1R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    uint8_t thresholdLT, uint8_t valueLT, uint8_t thresholdGT, uint8_t valueGT);
+PxlStatus pxliThreshold_LTValGTVal_8u_C3R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep, ImageSize roiSize,
+    const uint8_t thresholdLT[3], const uint8_t valueLT[3], const uint8_t thresholdGT[3], const uint8_t valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_8u_AC4R(const uint8_t* src, int srcStep, uint8_t* dst, int dstStep,
+    ImageSize roiSize, const uint8_t thresholdLT[3], const uint8_t valueLT[3], const uint8_t thresholdGT[3],
+    const uint8_t valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_8u_C1IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize, uint8_t thresholdLT,
+    uint8_t valueLT, uint8_t thresholdGT, uint8_t valueGT);
+PxlStatus pxliThreshold_LTValGTVal_8u_C3IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    const uint8_t thresholdLT[3], const uint8_t valueLT[3], const uint8_t thresholdGT[3], const uint8_t valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_8u_AC4IR(uint8_t* srcDst, int srcDstStep, ImageSize roiSize,
+    const uint8_t thresholdLT[3], const uint8_t valueLT[3], const uint8_t thresholdGT[3], const uint8_t valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_16u_C1R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep,
+    ImageSize roiSize, uint16_t thresholdLT, uint16_t valueLT, uint16_t thresholdGT, uint16_t valueGT);
+PxlStatus pxliThreshold_LTValGTVal_16u_C3R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep,
+    ImageSize roiSize, const uint16_t thresholdLT[3], const uint16_t valueLT[3], const uint16_t thresholdGT[3],
+    const uint16_t valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_16u_AC4R(const uint16_t* src, int srcStep, uint16_t* dst, int dstStep,
+    ImageSize roiSize, const uint16_t thresholdLT[3], const uint16_t valueLT[3], const uint16_t thresholdGT[3],
+    const uint16_t valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_16u_C1IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize, uint16_t thresholdLT,
+    uint16_t valueLT, uint16_t thresholdGT, uint16_t valueGT);
+PxlStatus pxliThreshold_LTValGTVal_16u_C3IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    const uint16_t thresholdLT[3], const uint16_t valueLT[3], const uint16_t thresholdGT[3], const uint16_t valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_16u_AC4IR(uint16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    const uint16_t thresholdLT[3], const uint16_t valueLT[3], const uint16_t thresholdGT[3], const uint16_t valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_16s_C1R(const int16_t* src, int srcStep, int16_t* dst, int dstStep,
+    ImageSize roiSize, int16_t thresholdLT, int16_t valueLT, int16_t thresholdGT, int16_t valueGT);
+PxlStatus pxliThreshold_LTValGTVal_16s_C3R(const int16_t* src, int srcStep, int16_t* dst, int dstStep,
+    ImageSize roiSize, const int16_t thresholdLT[3], const int16_t valueLT[3], const int16_t thresholdGT[3],
+    const int16_t valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_16s_AC4R(const int16_t* src, int srcStep, int16_t* dst, int dstStep,
+    ImageSize roiSize, const int16_t thresholdLT[3], const int16_t valueLT[3], const int16_t thresholdGT[3],
+    const int16_t valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_16s_C1IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize, int16_t thresholdLT,
+    int16_t valueLT, int16_t thresholdGT, int16_t valueGT);
+PxlStatus pxliThreshold_LTValGTVal_16s_C3IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    const int16_t thresholdLT[3], const int16_t valueLT[3], const int16_t thresholdGT[3], const int16_t valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_16s_AC4IR(int16_t* srcDst, int srcDstStep, ImageSize roiSize,
+    const int16_t thresholdLT[3], const int16_t valueLT[3], const int16_t thresholdGT[3], const int16_t valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_32f_C1R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    float thresholdLT, float valueLT, float thresholdGT, float valueGT);
+PxlStatus pxliThreshold_LTValGTVal_32f_C3R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float thresholdLT[3], const float valueLT[3], const float thresholdGT[3], const float valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_32f_AC4R(const float* src, int srcStep, float* dst, int dstStep, ImageSize roiSize,
+    const float thresholdLT[3], const float valueLT[3], const float thresholdGT[3], const float valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_32f_C1IR(float* srcDst, int srcDstStep, ImageSize roiSize, float thresholdLT,
+    float valueLT, float thresholdGT, float valueGT);
+PxlStatus pxliThreshold_LTValGTVal_32f_C3IR(float* srcDst, int srcDstStep, ImageSize roiSize,
+    const float thresholdLT[3], const float valueLT[3], const float thresholdGT[3], const float valueGT[3]);
+PxlStatus pxliThreshold_LTValGTVal_32f_AC4IR(float* srcDst, int srcDstStep, ImageSize roiSize,
+    const float thresholdLT[3], const float valueLT[3], const float thresholdGT[3], const float valueGT[3]);
+
+/* ---------------------------------------------------------------------------------------------------------------------
+ * ComputeThreshold_Otsu (threshold/otsu.cpp)
+ *
+ * The level that separates dark pixels from bright ones best (Otsu, 1979): with the pixels up to a level in one class
+ * and the others in a second, the variance between the classes is the product of their shares and the square of the
+ * difference of their means. *threshold receives the lowest level at which it is largest, 0 where all pixels are alike.
+ * Computed in double precision from the histogram; splits that leave less than 2^-23 of the pixels to a class do not
+ * count. The step must be at least roiSize.width.
+ *
+ * Statuses, in this order:
+ *   PXL_E_NULL_PTR  a pointer is null
+ *   PXL_E_SIZE      roiSize.width or roiSize.height < 1
+ *   PXL_E_STEP      srcStep < roiSize.width
+ */
+PxlStatus pxliComputeThreshold_Otsu_8u_C1R(const uint8_t* src, int srcStep, ImageSize roiSize, uint8_t threshold[1]);
 
 /* ==== Filters ===================================================================================================== */
 

@@ -195,11 +195,15 @@ void Builder::chooseElement(int i) {
     const Param& p = param(i);
     auto& a = arg(i);
     a.num = p.meaning == Meaning::Shift ? randomNumber(p) : randomInteger(random_, elementBytes(p.type) * 8);
+    a.real = randomReal(random_);
     if (p.type == "8u") a.num &= 0xFF;
     if (p.type == "16u") a.num &= 0xFFFF;
     if (p.type == "16s") a.num = static_cast<int16_t>(a.num);
     if (p.type == "32s") a.num = static_cast<int32_t>(a.num);
-    a.real = randomReal(random_);
+    if (p.meaning == Meaning::RangeHigh && chance(random_, 90)) { // else maybe an empty range
+        a.num = std::max(a.num, arg(Meaning::RangeLow).num);
+        a.real = std::max(a.real, arg(Meaning::RangeLow).real);
+    }
 }
 
 int64_t Builder::chooseStep(int64_t rowBytes, bool written) {

@@ -58,6 +58,7 @@ Builder::Bytes Builder::randomArray(const Param& p, int64_t count) {
         return rect;
     }
     if (p.meaning == Meaning::Taps) return randomTaps(p, count);
+    if (p.meaning == Meaning::RangeLow || p.meaning == Meaning::RangeHigh) return randomEnds(p, count);
     struct Number {
         int64_t whole;
         double real;
@@ -74,6 +75,21 @@ Builder::Bytes Builder::randomArray(const Param& p, int64_t count) {
     if (p.meaning == Meaning::Levels && chance(random_, 80)) std::ranges::sort(numbers, {}, &Number::real);
     Bytes bytes;
     for (const Number& n : numbers) append(bytes, p.type, n.whole, n.real);
+    return bytes;
+}
+
+// Ends of ranges, one per channel: mostly the lower ones in the lower half of what the type holds.
+Builder::Bytes Builder::randomEnds(const Param& p, int64_t count) {
+    const bool ordered = chance(random_, 95), high = p.meaning == Meaning::RangeHigh;
+    const int64_t half = int64_t{1} << (8 * elementBytes(p.type) - 1), middle = p.type.ends_with('s') ? 0 : half;
+    Bytes bytes;
+    for (; count > 0; --count) {
+        const int64_t distance = between(random_, 0, half - 1);
+        const int64_t whole = !ordered ? static_cast<int64_t>(random_()) : high ? middle + distance : middle - distance;
+        const double real = !ordered ? static_cast<double>(randomReal(random_))
+                                     : std::uniform_real_distribution<double>(0, 300)(random_) * (high ? 1 : -1);
+        append(bytes, p.type, whole, real);
+    }
     return bytes;
 }
 

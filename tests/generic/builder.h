@@ -56,6 +56,7 @@ private:
     void chooseArray(int i);
     Bytes randomArray(const Param& p, int64_t count);
     Bytes randomTaps(const Param& p, int64_t count);
+    Bytes randomEnds(const Param& p, int64_t count);
     int64_t entries(const Param& p, int channel);
     void breakArray(int i);
 
