@@ -31,6 +31,7 @@ SECTIONS = {
         "extract": "Extract a channel",
         "insert": "Insert a channel",
         "swap": "Channel order",
+        "dup": "Gray to colour",
         "convert": "Convert",
         "scale": "Scale",
         "border": "Border extension",
