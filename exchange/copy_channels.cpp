@@ -150,20 +150,37 @@ PXL_INLINE void fetchPlanes(T* const (&d)[Count], ptrdiff_t x) {
     for (int p = 0; p < Count; ++p) fetchForStores<vecBytes>(d[p] + x);
 }
 
+template <class T, int Count, int... P>
+PXL_INLINE ptrdiff_t firstOfLines(T* const (&d)[Count], std::integer_sequence<int, P...>) {
+    return firstOfLine(1, d[P]...);
+}
+
 template <class T, int Count>
-PXL_INLINE void splitRow(ptrdiff_t n, const T* s, T* const (&d)[Count], Storing storing) {
+PXL_INLINE void splitCachedRow(ptrdiff_t n, const T* s, T* const (&d)[Count], bool fetched) {
     constexpr int most = lanes<T>;
-    constexpr int line = lineBytes / static_cast<int>(sizeof(T));
     ptrdiff_t x = 0;
-    if (storing == Storing::Streamed)
-        for (; x + line <= n; x += line) streamSplitLines(s, d, x);
-    if (storing == Storing::Fetched)
+    if (fetched)
         for (; x + (fetchedParts + 1) * most <= n; x += most) {
             fetchPlanes(d, x + fetchedParts * most);
             splitPart<most>(s, d, x);
         }
     const auto part = [&]<int P>(Part<P>, ptrdiff_t at) __attribute__((always_inline)) { splitPart<P>(s, d, at); };
     if (!rowByParts<most, leastPart<T>>(n, part, x)) splitPixels(n, s, d);
+}
+
+// Whole lines are streamed. What lies before and behind them is done as rows of its own: stores of both kinds to one line
+// would cost more than they save.
+template <class T, int Count>
+PXL_INLINE void splitRow(ptrdiff_t n, const T* s, T* const (&d)[Count], Storing storing) {
+    constexpr int line = lineBytes / static_cast<int>(sizeof(T));
+    ptrdiff_t x = 0;
+    if (storing == Storing::Streamed) x = firstOfLines(d, std::make_integer_sequence<int, Count>());
+    if (storing != Storing::Streamed || x < 0 || x > n) return splitCachedRow(n, s, d, storing != Storing::Cached);
+    splitCachedRow(x, s, d, false);
+    for (; x + line <= n; x += line) streamSplitLines(s, d, x);
+    T* rest[Count];
+    for (int p = 0; p < Count; ++p) rest[p] = d[p] + x;
+    splitCachedRow(n - x, s + x * Count, rest, false);
 }
 
 template <class T, int Count>
@@ -184,12 +201,10 @@ PXL_INLINE void mergePart(const T* const (&s)[Count], T* d, ptrdiff_t x) {
 }
 
 template <class T, int Count>
-PXL_INLINE void mergeRow(ptrdiff_t n, const T* const (&s)[Count], T* d, Storing storing) {
+PXL_INLINE void mergeCachedRow(ptrdiff_t n, const T* const (&s)[Count], T* d, bool fetched) {
     constexpr int most = lanes<T>;
     ptrdiff_t x = 0;
-    if (storing == Storing::Streamed)
-        for (; x + most <= n; x += most) mergePart<Streamed, most>(s, d, x);
-    if (storing == Storing::Fetched)
+    if (fetched)
         for (; x + (fetchedParts + 1) * most <= n; x += most) {
             fetchForStores<Count * vecBytes>(d + (x + fetchedParts * most) * Count);
             mergePart<Cached, most>(s, d, x);
@@ -200,11 +215,27 @@ PXL_INLINE void mergeRow(ptrdiff_t n, const T* const (&s)[Count], T* d, Storing 
     if (!rowByParts<most, leastPart<T>>(n, part, x)) mergePixels(n, s, d);
 }
 
+// As splitRow.
+template <class T, int Count>
+PXL_INLINE void mergeRow(ptrdiff_t n, const T* const (&s)[Count], T* d, Storing storing) {
+    constexpr int line = lineBytes / static_cast<int>(sizeof(T)); // as many lines of pixels
+    ptrdiff_t x = 0;
+    if (storing == Storing::Streamed) x = firstOfLine(Count, d);
+    if (storing != Storing::Streamed || x < 0 || x > n) return mergeCachedRow(n, s, d, storing != Storing::Cached);
+    mergeCachedRow(x, s, d, false);
+    for (; x + line <= n; x += line)
+#pragma GCC unroll 4
+        for (int i = 0; i < line; i += lanes<T>) mergePart<Streamed, lanes<T>>(s, d, x + i);
+    const T* rest[Count];
+    for (int p = 0; p < Count; ++p) rest[p] = s[p] + x;
+    mergeCachedRow(n - x, rest, d + x * Count, false);
+}
+
 // Walks an image of pixels and its planes. The kernel is also told how to store.
 template <class Kernel, class Pixels, class T, int Count>
 void walkPlanes(ImageSize roi, Kernel kernel, Pixels pixels, Planes<T, Count> planes) {
     const auto walkImages = [&](auto... plane) {
-        const Storing storing = storingOf(roi.width, roi.height, pixels, plane...);
+        const Storing storing = storingOfPlanes(roi.width, roi.height, pixels, plane...);
         const auto row = [=](ptrdiff_t n, auto... p) { kernel(storing, n, p...); };
         walk(roi, row, pixels, plane...);
         finishStreamed(storing == Storing::Streamed);
