@@ -169,12 +169,13 @@ template <class Operation, class S, class D>
         walkElements(roi, channels, shortRow, src, dst);
         return PXL_OK;
     }
-    if constexpr (sizeof(D) > sizeof(S)) // widening is bound by its stores
-        if (isFetched(width, roi.height, src, dst)) {
-            const auto fetchedRow = [=](ptrdiff_t n, const S* s, D* d) { convertRow<true>(operation, n, s, d); };
-            walkElements(roi, channels, fetchedRow, src, dst);
-            return PXL_OK;
-        }
+    // Widening is bound by its stores.
+    constexpr ptrdiff_t least = sizeof(D) > sizeof(S) ? fetchedBytes : narrowingFetchedBytes;
+    if (ptrdiff_t{sizeof(S) + sizeof(D)} * width * roi.height >= least) {
+        const auto fetchedRow = [=](ptrdiff_t n, const S* s, D* d) { convertRow<true>(operation, n, s, d); };
+        walkElements(roi, channels, fetchedRow, src, dst);
+        return PXL_OK;
+    }
     walkElements(roi, channels, row, src, dst);
     return PXL_OK;
 }
