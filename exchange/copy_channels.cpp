@@ -39,10 +39,25 @@ PXL_INLINE void extractChannelRow(ptrdiff_t n, const T* s, T* d) {
     for (ptrdiff_t x = 0; x < n; ++x) store1(d + x, load1(s + x * N));
 }
 
+// How a channel of pixels is replaced: by whole vectors of pixels, with the lines of the destination fetched ahead in large
+// images; or element by element, which is faster for elements of 4 bytes between the sizes of the first and the second-level
+// cache: the line of a store need not have arrived before the next pixel is looked at.
+enum class Replacing { ByVectors, ByElements, Fetched };
+
+template <class T, class Src, class Dst>
+Replacing replacingOf(ImageSize roi, const Src& src, const Dst& dst) {
+    if (!isFetched(roi.width, roi.height, src, dst)) return Replacing::ByVectors;
+    if (isBeyondSecondCache(roi.width, roi.height, src, dst)) return Replacing::Fetched;
+    return sizeof(T) == 4 ? Replacing::ByElements : Replacing::ByVectors;
+}
+
 // source(Part<P>, ChannelOf<Channel>, x, vectors) gives P pixels from x on that hold the new values of the channel.
 // False, and nothing done, for very short rows.
 template <class T, int N, class Source>
-PXL_INLINE bool replaceChannelRow(ptrdiff_t n, Source source, T* d) {
+PXL_INLINE bool replaceChannelRow(ptrdiff_t n, Source source, T* d, Replacing replacing) {
+    if (replacing == Replacing::ByElements) return false;
+    constexpr ptrdiff_t ahead = 16 * lanes<T>;
+    const ptrdiff_t fetchedEnd = replacing == Replacing::Fetched ? n - ahead - lanes<T> : 0;
     const auto replaced = [&]<int P, int Channel>(Part<P> p, ChannelOf<Channel> c, ptrdiff_t x) {
         Vec<T> from[N];
         source(p, c, x, from);
@@ -52,6 +67,7 @@ PXL_INLINE bool replaceChannelRow(ptrdiff_t n, Source source, T* d) {
         return pixels;
     };
     const auto part = [&]<int P>(Part<P> p, ptrdiff_t x) {
+        if (x < fetchedEnd) fetchForStores<N * vecBytes>(d + (x + ahead) * N);
         storePixels<P>(replaced(p, ChannelOf<0>{}, x).v, d + x * N);
     };
     const auto end = [&]<int P>(Part<P> p, ptrdiff_t x) {
@@ -62,28 +78,30 @@ PXL_INLINE bool replaceChannelRow(ptrdiff_t n, Source source, T* d) {
 }
 
 template <class T, int N>
-PXL_INLINE void insertChannelRow(ptrdiff_t n, const T* s, T* d) {
+PXL_INLINE void insertChannelRow(ptrdiff_t n, const T* s, T* d, Replacing replacing) {
     const auto spread = [&]<int P, int Channel>(Part<P>, ChannelOf<Channel>, ptrdiff_t x, Vec<T>(&v)[N]) {
         spreadChannel<Channel>(LoadFirst<P>(s + x), v);
     };
-    if (replaceChannelRow<T, N>(n, spread, d)) return;
+    if (replaceChannelRow<T, N>(n, spread, d, replacing)) return;
+#pragma GCC unroll 4
     for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x));
 }
 
 template <class T, int N>
-PXL_INLINE void moveChannelRow(ptrdiff_t n, const T* s, T* d) {
+PXL_INLINE void moveChannelRow(ptrdiff_t n, const T* s, T* d, Replacing replacing) {
     const auto pixels = [&]<int P, int Channel>(Part<P>, ChannelOf<Channel>, ptrdiff_t x, Vec<T>(&v)[N]) {
         loadPixels<P>(s + x * N - Channel, v);
     };
-    if (replaceChannelRow<T, N>(n, pixels, d)) return;
+    if (replaceChannelRow<T, N>(n, pixels, d, replacing)) return;
+#pragma GCC unroll 4
     for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x * N));
 }
 
 template <class T, int SrcElements, int DstElements>
-void copyChannelRow(ptrdiff_t n, const T* s, T* d) {
-    if constexpr (SrcElements == DstElements) moveChannelRow<T, SrcElements>(n, s, d);
+void copyChannelRow(ptrdiff_t n, const T* s, T* d, Replacing replacing) {
+    if constexpr (SrcElements == DstElements) moveChannelRow<T, SrcElements>(n, s, d, replacing);
     if constexpr (SrcElements > DstElements) extractChannelRow<T, SrcElements>(n, s, d);
-    if constexpr (SrcElements < DstElements) insertChannelRow<T, DstElements>(n, s, d);
+    if constexpr (SrcElements < DstElements) insertChannelRow<T, DstElements>(n, s, d, replacing);
 }
 
 // Whether two channels of the same pixels are addressed, which overlap nowhere though their rows do.
@@ -97,7 +115,9 @@ bool areChannelsOfOneImage(Image<const T, Elements, 1> src, Image<T, Elements, 1
 template <class T, int SrcElements, int DstElements>
 PxlStatus CopyChannel(Image<const T, SrcElements, 1> src, Image<T, DstElements, 1> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
-    const auto row = copyChannelRow<T, SrcElements, DstElements>;
+    const auto row = [replacing = replacingOf<T>(roi, src, dst)](ptrdiff_t n, const T* s, T* d) {
+        copyChannelRow<T, SrcElements, DstElements>(n, s, d, replacing);
+    };
     if constexpr (SrcElements == DstElements)
         if (areChannelsOfOneImage(src, dst)) {
             const auto both = [&](ptrdiff_t n, T* d) { row(n, d + (src.base - dst.base), d); };

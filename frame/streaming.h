@@ -26,8 +26,13 @@ template <class... I>
 inline bool isFetched(ptrdiff_t width, ptrdiff_t height, const I&... o) {
     return (... + o.pixelBytes) * width * height >= fetchedBytes;
 }
-// Narrower results are a small part of the traffic: their lines are fetched when the operands fill the second-level cache.
-inline constexpr ptrdiff_t narrowingFetchedBytes = 1'700'000;
+// From this size on they fill the second-level cache.
+inline constexpr ptrdiff_t secondCacheBytes = 1'700'000;
+
+template <class... I>
+inline bool isBeyondSecondCache(ptrdiff_t width, ptrdiff_t height, const I&... o) {
+    return (... + o.pixelBytes) * width * height >= secondCacheBytes;
+}
 
 enum class Storing { Cached, Fetched, Streamed };
 

@@ -169,9 +169,9 @@ template <class Operation, class S, class D>
         walkElements(roi, channels, shortRow, src, dst);
         return PXL_OK;
     }
-    // Widening is bound by its stores.
-    constexpr ptrdiff_t least = sizeof(D) > sizeof(S) ? fetchedBytes : narrowingFetchedBytes;
-    if (ptrdiff_t{sizeof(S) + sizeof(D)} * width * roi.height >= least) {
+    // Widening is bound by its stores; narrower results are a small part of the traffic.
+    constexpr bool widens = sizeof(D) > sizeof(S);
+    if (widens ? isFetched(width, roi.height, src, dst) : isBeyondSecondCache(width, roi.height, src, dst)) {
         const auto fetchedRow = [=](ptrdiff_t n, const S* s, D* d) { convertRow<true>(operation, n, s, d); };
         walkElements(roi, channels, fetchedRow, src, dst);
         return PXL_OK;
