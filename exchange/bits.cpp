@@ -80,7 +80,7 @@ public:
         : n_(n), end_(byteCount - 8), lanes_(bit), lastLanes_(bit + n - vecBytes - 8 * end_) {}
 
     static constexpr ptrdiff_t fetched = 512; // lines are asked for so many pixels ahead
-    static bool suit(ptrdiff_t n) { return hasByteShuffle && (n >= 64 + vecBytes || n == 64); }
+    static bool suit(ptrdiff_t n) { return n >= 64 + vecBytes || n == 64; }
 
     PXL_INLINE void operator()(const uint8_t* s, uint8_t* d) const {
         ptrdiff_t x = 0;
@@ -106,11 +106,12 @@ PxlStatus UnpackBits(Image<const uint8_t> src, int srcBitOffset, Image<uint8_t> 
         return status;
     const Bits bits(src, srcBitOffset, roi.width);
     const bool overlap = extentOf(bits.bytes, bits.byteCount, roi.height).meets(extentOf(dst, roi.width, roi.height));
-    if (LongRows::suit(roi.width) && !overlap) {
-        const LongRows row(roi.width, bits.first, bits.byteCount);
-        for (ptrdiff_t y = 0; y < roi.height; ++y) row(bits.bytes.at(0, y), dst.at(0, y));
-        return PXL_OK;
-    }
+    if constexpr (hasByteShuffle)
+        if (LongRows::suit(roi.width) && !overlap) {
+            const LongRows row(roi.width, bits.first, bits.byteCount);
+            for (ptrdiff_t y = 0; y < roi.height; ++y) row(bits.bytes.at(0, y), dst.at(0, y));
+            return PXL_OK;
+        }
     for (ptrdiff_t y = 0; y < roi.height; ++y) {
         const auto s = rowOf(bits.bytes, y);
         const auto d = rowOf(dst, y);

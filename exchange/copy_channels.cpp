@@ -44,20 +44,12 @@ PXL_INLINE void extractChannelRow(ptrdiff_t n, const T* s, T* d) {
 // cache: the line of a store need not have arrived before the next pixel is looked at.
 enum class Replacing { ByVectors, ByElements, Fetched };
 
-template <class T, class Src, class Dst>
-Replacing replacingOf(ImageSize roi, const Src& src, const Dst& dst) {
-    if (!isFetched(roi.width, roi.height, src, dst)) return Replacing::ByVectors;
-    if (isBeyondSecondCache(roi.width, roi.height, src, dst)) return Replacing::Fetched;
-    return sizeof(T) == 4 ? Replacing::ByElements : Replacing::ByVectors;
-}
-
 // source(Part<P>, ChannelOf<Channel>, x, vectors) gives P pixels from x on that hold the new values of the channel.
 // False, and nothing done, for very short rows.
-template <class T, int N, class Source>
-PXL_INLINE bool replaceChannelRow(ptrdiff_t n, Source source, T* d, Replacing replacing) {
-    if (replacing == Replacing::ByElements) return false;
+template <Replacing How, class T, int N, class Source>
+PXL_INLINE bool replaceChannelRow(ptrdiff_t n, Source source, T* d) {
+    if constexpr (How == Replacing::ByElements) return false;
     constexpr ptrdiff_t ahead = 16 * lanes<T>;
-    const ptrdiff_t fetchedEnd = replacing == Replacing::Fetched ? n - ahead - lanes<T> : 0;
     const auto replaced = [&]<int P, int Channel>(Part<P> p, ChannelOf<Channel> c, ptrdiff_t x) {
         Vec<T> from[N];
         source(p, c, x, from);
@@ -67,7 +59,7 @@ PXL_INLINE bool replaceChannelRow(ptrdiff_t n, Source source, T* d, Replacing re
         return pixels;
     };
     const auto part = [&]<int P>(Part<P> p, ptrdiff_t x) {
-        if (x < fetchedEnd) fetchForStores<N * vecBytes>(d + (x + ahead) * N);
+        if (How == Replacing::Fetched && x + ahead + lanes<T> <= n) fetchForStores<N * vecBytes>(d + (x + ahead) * N);
         storePixels<P>(replaced(p, ChannelOf<0>{}, x).v, d + x * N);
     };
     const auto end = [&]<int P>(Part<P> p, ptrdiff_t x) {
@@ -77,31 +69,31 @@ PXL_INLINE bool replaceChannelRow(ptrdiff_t n, Source source, T* d, Replacing re
     return rowByPartsAndEnd<lanes<T>, leastPart<T>>(n, part, end);
 }
 
-template <class T, int N>
-PXL_INLINE void insertChannelRow(ptrdiff_t n, const T* s, T* d, Replacing replacing) {
+template <Replacing How, class T, int N>
+PXL_INLINE void insertChannelRow(ptrdiff_t n, const T* s, T* d) {
     const auto spread = [&]<int P, int Channel>(Part<P>, ChannelOf<Channel>, ptrdiff_t x, Vec<T>(&v)[N]) {
         spreadChannel<Channel>(LoadFirst<P>(s + x), v);
     };
-    if (replaceChannelRow<T, N>(n, spread, d, replacing)) return;
+    if (replaceChannelRow<How, T, N>(n, spread, d)) return;
 #pragma GCC unroll 4
     for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x));
 }
 
-template <class T, int N>
-PXL_INLINE void moveChannelRow(ptrdiff_t n, const T* s, T* d, Replacing replacing) {
+template <Replacing How, class T, int N>
+PXL_INLINE void moveChannelRow(ptrdiff_t n, const T* s, T* d) {
     const auto pixels = [&]<int P, int Channel>(Part<P>, ChannelOf<Channel>, ptrdiff_t x, Vec<T>(&v)[N]) {
         loadPixels<P>(s + x * N - Channel, v);
     };
-    if (replaceChannelRow<T, N>(n, pixels, d, replacing)) return;
+    if (replaceChannelRow<How, T, N>(n, pixels, d)) return;
 #pragma GCC unroll 4
     for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x * N));
 }
 
-template <class T, int SrcElements, int DstElements>
-void copyChannelRow(ptrdiff_t n, const T* s, T* d, Replacing replacing) {
-    if constexpr (SrcElements == DstElements) moveChannelRow<T, SrcElements>(n, s, d, replacing);
+template <Replacing How, class T, int SrcElements, int DstElements>
+void copyChannelRow(ptrdiff_t n, const T* s, T* d) {
+    if constexpr (SrcElements == DstElements) moveChannelRow<How, T, SrcElements>(n, s, d);
     if constexpr (SrcElements > DstElements) extractChannelRow<T, SrcElements>(n, s, d);
-    if constexpr (SrcElements < DstElements) insertChannelRow<T, DstElements>(n, s, d, replacing);
+    if constexpr (SrcElements < DstElements) insertChannelRow<How, T, DstElements>(n, s, d);
 }
 
 // Whether two channels of the same pixels are addressed, which overlap nowhere though their rows do.
@@ -113,18 +105,28 @@ bool areChannelsOfOneImage(Image<const T, Elements, 1> src, Image<T, Elements, 1
 }
 
 template <class T, int SrcElements, int DstElements>
-PxlStatus CopyChannel(Image<const T, SrcElements, 1> src, Image<T, DstElements, 1> dst, ImageSize roi) {
-    if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
-    const auto row = [replacing = replacingOf<T>(roi, src, dst)](ptrdiff_t n, const T* s, T* d) {
-        copyChannelRow<T, SrcElements, DstElements>(n, s, d, replacing);
-    };
+void walkChannel(ImageSize roi, void (*row)(ptrdiff_t, const T*, T*), Image<const T, SrcElements, 1> src,
+                 Image<T, DstElements, 1> dst) {
     if constexpr (SrcElements == DstElements)
         if (areChannelsOfOneImage(src, dst)) {
-            const auto both = [&](ptrdiff_t n, T* d) { row(n, d + (src.base - dst.base), d); };
-            walk(roi, both, dst);
-            return PXL_OK;
+            const auto both = [=](ptrdiff_t n, T* d) { row(n, d + (src.base - dst.base), d); };
+            return walk(roi, both, dst);
         }
     walk(roi, row, src, dst);
+}
+
+template <class T, int SrcElements, int DstElements>
+PxlStatus CopyChannel(Image<const T, SrcElements, 1> src, Image<T, DstElements, 1> dst, ImageSize roi) {
+    if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
+    auto row = copyChannelRow<Replacing::ByVectors, T, SrcElements, DstElements>;
+    if constexpr (SrcElements <= DstElements)
+        if (isFetched(roi.width, roi.height, src, dst)) {
+            if (isBeyondSecondCache(roi.width, roi.height, src, dst))
+                row = copyChannelRow<Replacing::Fetched, T, SrcElements, DstElements>;
+            else if (sizeof(T) == 4)
+                row = copyChannelRow<Replacing::ByElements, T, SrcElements, DstElements>;
+        }
+    walkChannel(roi, row, src, dst);
     return PXL_OK;
 }
 
@@ -191,16 +193,23 @@ PXL_INLINE void splitCachedRow(ptrdiff_t n, const T* s, T* const (&d)[Count], bo
 // Whole lines are streamed. What lies before and behind them is done as rows of its own: stores of both kinds to one line
 // would cost more than they save.
 template <class T, int Count>
-PXL_INLINE void splitRow(ptrdiff_t n, const T* s, T* const (&d)[Count], Storing storing) {
+[[gnu::noinline]] void splitStreamedRow(ptrdiff_t n, const T* s, T* const (&d)[Count]) {
     constexpr int line = lineBytes / static_cast<int>(sizeof(T));
-    ptrdiff_t x = 0;
-    if (storing == Storing::Streamed) x = firstOfLines(d, std::make_integer_sequence<int, Count>());
-    if (storing != Storing::Streamed || x < 0 || x > n) return splitCachedRow(n, s, d, storing != Storing::Cached);
+    ptrdiff_t x = firstOfLines(d, std::make_integer_sequence<int, Count>());
+    if (x < 0 || x > n) return splitCachedRow(n, s, d, true);
     splitCachedRow(x, s, d, false);
     for (; x + line <= n; x += line) streamSplitLines(s, d, x);
     T* rest[Count];
     for (int p = 0; p < Count; ++p) rest[p] = d[p] + x;
     splitCachedRow(n - x, s + x * Count, rest, false);
+}
+
+template <class T, int Count>
+PXL_INLINE void splitRow(ptrdiff_t n, const T* s, T* const (&d)[Count], Storing storing) {
+    if (storing == Storing::Streamed)
+        splitStreamedRow(n, s, d);
+    else
+        splitCachedRow(n, s, d, storing == Storing::Fetched);
 }
 
 template <class T, int Count>
@@ -235,13 +244,13 @@ PXL_INLINE void mergeCachedRow(ptrdiff_t n, const T* const (&s)[Count], T* d, bo
     if (!rowByParts<most, leastPart<T>>(n, part, x)) mergePixels(n, s, d);
 }
 
-// As splitRow.
+// As splitStreamedRow.
 template <class T, int Count>
-PXL_INLINE void mergeRow(ptrdiff_t n, const T* const (&s)[Count], T* d, Storing storing) {
-    constexpr int line = lineBytes / static_cast<int>(sizeof(T)); // as many lines of pixels
-    ptrdiff_t x = 0;
-    if (storing == Storing::Streamed) x = firstOfLine(Count, d);
-    if (storing != Storing::Streamed || x < 0 || x > n) return mergeCachedRow(n, s, d, storing != Storing::Cached);
+[[gnu::noinline]] void mergeStreamedRow(ptrdiff_t n, const T* const (&s)[Count], T* d) {
+    constexpr int line =
+        lineBytes / static_cast<int>(sizeof(T)); // so many pixels fill as many lines as they have elements
+    ptrdiff_t x = firstOfLine(Count, d);
+    if (x < 0 || x > n) return mergeCachedRow(n, s, d, true);
     mergeCachedRow(x, s, d, false);
     for (; x + line <= n; x += line)
 #pragma GCC unroll 4
@@ -249,6 +258,14 @@ PXL_INLINE void mergeRow(ptrdiff_t n, const T* const (&s)[Count], T* d, Storing 
     const T* rest[Count];
     for (int p = 0; p < Count; ++p) rest[p] = s[p] + x;
     mergeCachedRow(n - x, rest, d + x * Count, false);
+}
+
+template <class T, int Count>
+PXL_INLINE void mergeRow(ptrdiff_t n, const T* const (&s)[Count], T* d, Storing storing) {
+    if (storing == Storing::Streamed)
+        mergeStreamedRow(n, s, d);
+    else
+        mergeCachedRow(n, s, d, storing == Storing::Fetched);
 }
 
 // Walks an image of pixels and its planes. The kernel is also told how to store.

@@ -127,7 +127,7 @@ PXL_INLINE void exchangeRuns(RowPairs pairs) {
     each([=](uint8_t* a, uint8_t* b) { exchangeByPixels<Bytes, Moved, Reversed>(a, b, bytes); });
 }
 
-// Pixels of 3, 6 and 12 bytes. Where they cannot go by runs of 96 bytes, one row is held while the other moves.
+// Pixels of 3, 6 and 12 bytes that are too few for runs of 96 bytes or have none: one row is held while the other moves.
 template <int Bytes>
 void exchangeHeld(uint8_t* a, uint8_t* b, ptrdiff_t bytes) {
     constexpr ptrdiff_t chunk = 480; // whole pixels of every size
@@ -142,7 +142,10 @@ void exchangeHeld(uint8_t* a, uint8_t* b, ptrdiff_t bytes) {
 }
 template <int Bytes>
 PXL_INLINE void exchangeReversedThrees(RowPairs pairs) {
+    constexpr ptrdiff_t few = 48; // here holding would take longer than single pixels
     const ptrdiff_t bytes = pairs.bytes;
+    if (bytes < few)
+        return pairs.each([=](uint8_t* a, uint8_t* b) { exchangeByPixels<Bytes, Bytes, true>(a, b, bytes); });
     if constexpr (hasByteShuffle)
         if (bytes >= 96)
             return pairs.each([=](uint8_t* a, uint8_t* b) { exchangeByWords<Run96, Bytes, Bytes, true>(a, b, bytes); });
