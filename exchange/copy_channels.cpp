@@ -105,8 +105,8 @@ bool areChannelsOfOneImage(Image<const T, Elements, 1> src, Image<T, Elements, 1
 }
 
 template <class T, int SrcElements, int DstElements>
-void walkChannel(ImageSize roi, void (*row)(ptrdiff_t, const T*, T*), Image<const T, SrcElements, 1> src,
-                 Image<T, DstElements, 1> dst) {
+PXL_INLINE void walkChannel(ImageSize roi, void (*row)(ptrdiff_t, const T*, T*), Image<const T, SrcElements, 1> src,
+                            Image<T, DstElements, 1> dst) {
     if constexpr (SrcElements == DstElements)
         if (areChannelsOfOneImage(src, dst)) {
             const auto both = [=](ptrdiff_t n, T* d) { row(n, d + (src.base - dst.base), d); };
@@ -116,17 +116,23 @@ void walkChannel(ImageSize roi, void (*row)(ptrdiff_t, const T*, T*), Image<cons
 }
 
 template <class T, int SrcElements, int DstElements>
+[[gnu::noinline]] void replaceLargeChannel(ImageSize roi, Image<const T, SrcElements, 1> src,
+                                           Image<T, DstElements, 1> dst) {
+    if (isBeyondSecondCache(roi.width, roi.height, src, dst))
+        walkChannel(roi, copyChannelRow<Replacing::Fetched, T, SrcElements, DstElements>, src, dst);
+    else if constexpr (sizeof(T) == 4)
+        walkChannel(roi, copyChannelRow<Replacing::ByElements, T, SrcElements, DstElements>, src, dst);
+    else
+        walkChannel(roi, copyChannelRow<Replacing::ByVectors, T, SrcElements, DstElements>, src, dst);
+}
+
+template <class T, int SrcElements, int DstElements>
 PxlStatus CopyChannel(Image<const T, SrcElements, 1> src, Image<T, DstElements, 1> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
-    auto row = copyChannelRow<Replacing::ByVectors, T, SrcElements, DstElements>;
-    if constexpr (SrcElements <= DstElements)
-        if (isFetched(roi.width, roi.height, src, dst)) {
-            if (isBeyondSecondCache(roi.width, roi.height, src, dst))
-                row = copyChannelRow<Replacing::Fetched, T, SrcElements, DstElements>;
-            else if (sizeof(T) == 4)
-                row = copyChannelRow<Replacing::ByElements, T, SrcElements, DstElements>;
-        }
-    walkChannel(roi, row, src, dst);
+    if (SrcElements <= DstElements && isFetched(roi.width, roi.height, src, dst))
+        replaceLargeChannel(roi, src, dst);
+    else
+        walkChannel(roi, copyChannelRow<Replacing::ByVectors, T, SrcElements, DstElements>, src, dst);
     return PXL_OK;
 }
 
@@ -177,11 +183,11 @@ PXL_INLINE ptrdiff_t firstOfLines(T* const (&d)[Count], std::integer_sequence<in
     return firstOfLine(1, d[P]...);
 }
 
-template <class T, int Count>
-PXL_INLINE void splitCachedRow(ptrdiff_t n, const T* s, T* const (&d)[Count], bool fetched) {
+template <bool Fetched, class T, int Count>
+PXL_INLINE void splitCachedRow(ptrdiff_t n, const T* s, T* const (&d)[Count]) {
     constexpr int most = lanes<T>;
     ptrdiff_t x = 0;
-    if (fetched)
+    if constexpr (Fetched)
         for (; x + (fetchedParts + 1) * most <= n; x += most) {
             fetchPlanes(d, x + fetchedParts * most);
             splitPart<most>(s, d, x);
@@ -196,20 +202,12 @@ template <class T, int Count>
 [[gnu::noinline]] void splitStreamedRow(ptrdiff_t n, const T* s, T* const (&d)[Count]) {
     constexpr int line = lineBytes / static_cast<int>(sizeof(T));
     ptrdiff_t x = firstOfLines(d, std::make_integer_sequence<int, Count>());
-    if (x < 0 || x > n) return splitCachedRow(n, s, d, true);
-    splitCachedRow(x, s, d, false);
+    if (x < 0 || x > n) return splitCachedRow<true>(n, s, d);
+    splitCachedRow<false>(x, s, d);
     for (; x + line <= n; x += line) streamSplitLines(s, d, x);
     T* rest[Count];
     for (int p = 0; p < Count; ++p) rest[p] = d[p] + x;
-    splitCachedRow(n - x, s + x * Count, rest, false);
-}
-
-template <class T, int Count>
-PXL_INLINE void splitRow(ptrdiff_t n, const T* s, T* const (&d)[Count], Storing storing) {
-    if (storing == Storing::Streamed)
-        splitStreamedRow(n, s, d);
-    else
-        splitCachedRow(n, s, d, storing == Storing::Fetched);
+    splitCachedRow<false>(n - x, s + x * Count, rest);
 }
 
 template <class T, int Count>
@@ -229,11 +227,11 @@ PXL_INLINE void mergePart(const T* const (&s)[Count], T* d, ptrdiff_t x) {
     StoreInterleaved<P, Stores>(v, d + x * Count);
 }
 
-template <class T, int Count>
-PXL_INLINE void mergeCachedRow(ptrdiff_t n, const T* const (&s)[Count], T* d, bool fetched) {
+template <bool Fetched, class T, int Count>
+PXL_INLINE void mergeCachedRow(ptrdiff_t n, const T* const (&s)[Count], T* d) {
     constexpr int most = lanes<T>;
     ptrdiff_t x = 0;
-    if (fetched)
+    if constexpr (Fetched)
         for (; x + (fetchedParts + 1) * most <= n; x += most) {
             fetchForStores<Count * vecBytes>(d + (x + fetchedParts * most) * Count);
             mergePart<Cached, most>(s, d, x);
@@ -250,52 +248,71 @@ template <class T, int Count>
     constexpr int line =
         lineBytes / static_cast<int>(sizeof(T)); // so many pixels fill as many lines as they have elements
     ptrdiff_t x = firstOfLine(Count, d);
-    if (x < 0 || x > n) return mergeCachedRow(n, s, d, true);
-    mergeCachedRow(x, s, d, false);
+    if (x < 0 || x > n) return mergeCachedRow<true>(n, s, d);
+    mergeCachedRow<false>(x, s, d);
     for (; x + line <= n; x += line)
 #pragma GCC unroll 4
         for (int i = 0; i < line; i += lanes<T>) mergePart<Streamed, lanes<T>>(s, d, x + i);
     const T* rest[Count];
     for (int p = 0; p < Count; ++p) rest[p] = s[p] + x;
-    mergeCachedRow(n - x, rest, d + x * Count, false);
+    mergeCachedRow<false>(n - x, rest, d + x * Count);
 }
 
+// Rows of small images, and of large ones.
 template <class T, int Count>
-PXL_INLINE void mergeRow(ptrdiff_t n, const T* const (&s)[Count], T* d, Storing storing) {
-    if (storing == Storing::Streamed)
-        mergeStreamedRow(n, s, d);
-    else
-        mergeCachedRow(n, s, d, storing == Storing::Fetched);
-}
+struct SplitRows {
+    static void small(ptrdiff_t n, const T* s, auto... d) { splitCachedRow<false, T, Count>(n, s, {d...}); }
+    static void fetched(ptrdiff_t n, const T* s, auto... d) { splitCachedRow<true, T, Count>(n, s, {d...}); }
+    static void streamed(ptrdiff_t n, const T* s, auto... d) { splitStreamedRow<T, Count>(n, s, {d...}); }
+};
+template <class T, int Count>
+struct MergeRows {
+    static void small(ptrdiff_t n, T* d, auto... s) { mergeCachedRow<false, T, Count>(n, {s...}, d); }
+    static void fetched(ptrdiff_t n, T* d, auto... s) { mergeCachedRow<true, T, Count>(n, {s...}, d); }
+    static void streamed(ptrdiff_t n, T* d, auto... s) { mergeStreamedRow<T, Count>(n, {s...}, d); }
+};
 
-// Walks an image of pixels and its planes. The kernel is also told how to store.
-template <class Kernel, class Pixels, class T, int Count>
-void walkPlanes(ImageSize roi, Kernel kernel, Pixels pixels, Planes<T, Count> planes) {
-    const auto walkImages = [&](auto... plane) {
-        const Storing storing = storingOfPlanes(roi.width, roi.height, pixels, plane...);
-        const auto row = [=](ptrdiff_t n, auto... p) { kernel(storing, n, p...); };
-        walk(roi, row, pixels, plane...);
-        finishStreamed(storing == Storing::Streamed);
-    };
+// Calls walk with the planes, one by one.
+template <class Walk, class T, int Count>
+PXL_INLINE void withPlanes(Planes<T, Count> planes, Walk&& walkImages) {
     [&]<int... p>(std::integer_sequence<int, p...>) { walkImages(planes[p]...); }
     (std::make_integer_sequence<int, Count>{});
+}
+
+// A walk of its own, in which small calls take no part.
+template <class Rows, class Pixels, class T, int Count>
+[[gnu::noinline]] void walkLarge(ImageSize roi, Pixels pixels, Planes<T, Count> planes, Storing storing) {
+    const auto fetched = [](auto... row) { Rows::fetched(row...); };
+    const auto streamed = [](auto... row) { Rows::streamed(row...); };
+    withPlanes(planes, [&](auto... plane) {
+        if (storing == Storing::Streamed)
+            walk(roi, streamed, pixels, plane...);
+        else
+            walk(roi, fetched, pixels, plane...);
+    });
+    finishStreamed(storing == Storing::Streamed);
+}
+
+// Walks an image of pixels and its planes.
+template <class Rows, class Pixels, class T, int Count>
+PXL_INLINE void walkPlanes(ImageSize roi, Pixels pixels, Planes<T, Count> planes) {
+    const Storing storing = storingOfPlanes(roi.width, roi.height, pixels);
+    if (storing != Storing::Cached) return walkLarge<Rows>(roi, pixels, planes, storing);
+    const auto small = [](auto... row) { Rows::small(row...); };
+    withPlanes(planes, [&](auto... plane) { walk(roi, small, pixels, plane...); });
 }
 
 template <class T, int Count>
 PxlStatus Split(Image<const T, Count> src, Planes<T, Count> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
-    const auto row = [](Storing storing, ptrdiff_t n, const T* s, auto... d) {
-        splitRow<T, Count>(n, s, {d...}, storing);
-    };
-    walkPlanes(roi, row, src, dst);
+    walkPlanes<SplitRows<T, Count>>(roi, src, dst);
     return PXL_OK;
 }
 
 template <class T, int Count>
 PxlStatus Merge(Planes<const T, Count> src, Image<T, Count> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
-    const auto row = [](Storing storing, ptrdiff_t n, T* d, auto... s) { mergeRow<T, Count>(n, {s...}, d, storing); };
-    walkPlanes(roi, row, dst, src);
+    walkPlanes<MergeRows<T, Count>>(roi, dst, src);
     return PXL_OK;
 }
 

@@ -127,7 +127,7 @@ PXL_INLINE void exchangeRuns(RowPairs pairs) {
     each([=](uint8_t* a, uint8_t* b) { exchangeByPixels<Bytes, Moved, Reversed>(a, b, bytes); });
 }
 
-// Pixels of 3, 6 and 12 bytes that are too few for runs of 96 bytes or have none: one row is held while the other moves.
+// Pixels of 3, 6 and 12 bytes without shuffles of bytes: one row is held while the other moves.
 template <int Bytes>
 void exchangeHeld(uint8_t* a, uint8_t* b, ptrdiff_t bytes) {
     constexpr ptrdiff_t chunk = 480; // whole pixels of every size
@@ -142,14 +142,15 @@ void exchangeHeld(uint8_t* a, uint8_t* b, ptrdiff_t bytes) {
 }
 template <int Bytes>
 PXL_INLINE void exchangeReversedThrees(RowPairs pairs) {
-    constexpr ptrdiff_t few = 48; // here holding would take longer than single pixels
     const ptrdiff_t bytes = pairs.bytes;
-    if (bytes < few)
+    if (bytes < 96)
         return pairs.each([=](uint8_t* a, uint8_t* b) { exchangeByPixels<Bytes, Bytes, true>(a, b, bytes); });
-    if constexpr (hasByteShuffle)
-        if (bytes >= 96)
-            return pairs.each([=](uint8_t* a, uint8_t* b) { exchangeByWords<Run96, Bytes, Bytes, true>(a, b, bytes); });
-    pairs.each([=](uint8_t* a, uint8_t* b) { exchangeHeld<Bytes>(a, b, bytes); });
+    pairs.each([=](uint8_t* a, uint8_t* b) {
+        if constexpr (hasByteShuffle)
+            exchangeByWords<Run96, Bytes, Bytes, true>(a, b, bytes);
+        else
+            exchangeHeld<Bytes>(a, b, bytes);
+    });
 }
 
 template <int Bytes, int Moved>

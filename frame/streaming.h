@@ -41,10 +41,12 @@ enum class Storing { Cached, Fetched, Streamed };
 // tenth at 2.4 MB, and streamed ones by two fifths at 3.7 MB).
 inline constexpr ptrdiff_t streamedPlaneBytes = 3'000'000;
 
-template <class... I>
-inline Storing storingOfPlanes(ptrdiff_t width, ptrdiff_t height, const I&... o) {
-    if ((... + o.pixelBytes) * width * height >= streamedPlaneBytes) return Storing::Streamed;
-    return isFetched(width, height, o...) ? Storing::Fetched : Storing::Cached;
+// All planes together are as large as the image.
+template <class I>
+inline Storing storingOfPlanes(ptrdiff_t width, ptrdiff_t height, const I& pixels) {
+    const ptrdiff_t bytes = 2 * pixels.pixelBytes * width * height;
+    if (bytes >= streamedPlaneBytes) return Storing::Streamed;
+    return bytes >= fetchedBytes ? Storing::Fetched : Storing::Cached;
 }
 
 // The first pixel of a row that begins a line of the caches for every pointer, -1 where there is none.

@@ -156,6 +156,14 @@ template <class Operation, class S, class D>
 
 // ---- the walks: one body per operation, whatever the count of channels ----------------------------------------------
 
+template <class Operation, class S, class D>
+[[gnu::noinline]] PxlStatus convertFetched(Operation operation, Image<const S> src, Image<D> dst, ImageSize roi,
+                                           int channels) {
+    const auto row = [=](ptrdiff_t n, const S* s, D* d) { convertRow<true>(operation, n, s, d); };
+    walkElements(roi, channels, row, src, dst);
+    return PXL_OK;
+}
+
 // Channels alike, as elements.
 template <class Operation, class S, class D>
 [[gnu::noinline]] PxlStatus convertElements(Operation operation, Image<const S> src, Image<D> dst, ImageSize roi,
@@ -171,11 +179,8 @@ template <class Operation, class S, class D>
     }
     // Widening is bound by its stores; narrower results are a small part of the traffic.
     constexpr bool widens = sizeof(D) > sizeof(S);
-    if (widens ? isFetched(width, roi.height, src, dst) : isBeyondSecondCache(width, roi.height, src, dst)) {
-        const auto fetchedRow = [=](ptrdiff_t n, const S* s, D* d) { convertRow<true>(operation, n, s, d); };
-        walkElements(roi, channels, fetchedRow, src, dst);
-        return PXL_OK;
-    }
+    if (widens ? isFetched(width, roi.height, src, dst) : isBeyondSecondCache(width, roi.height, src, dst))
+        return convertFetched(operation, src, dst, roi, channels);
     walkElements(roi, channels, row, src, dst);
     return PXL_OK;
 }
