@@ -19,7 +19,8 @@ int failedRows = 0;
 // Whole range of the integer types; 32f values straddle 0..255, so that conversions to 8u saturate at both ends.
 void fillRandom(cv::Mat& image, uint64_t seed) {
     static const std::map<int, std::pair<double, double>> ranges = {
-        {CV_8U, {0, 256}}, {CV_16U, {0, 65536}}, {CV_16S, {-32768, 32768}}, {CV_32S, {-1e9, 1e9}}, {CV_32F, {-64, 320}},
+        {CV_8U, {0, 256}},         {CV_8S, {-128, 128}},  {CV_16U, {0, 65536}},
+        {CV_16S, {-32768, 32768}}, {CV_32S, {-1e9, 1e9}}, {CV_32F, {-64, 320}},
     };
     const auto [low, high] = ranges.at(image.depth());
     cv::RNG(seed).fill(image, cv::RNG::UNIFORM, cv::Scalar::all(low), cv::Scalar::all(high));
@@ -50,6 +51,10 @@ cv::Mat pooled(char role, size_t number, int type, Shape shape, bool strided, in
         if (role == 'm') cv::compare(image, 127, image, cv::CMP_GT);
     }
     return image;
+}
+
+Shape sourceShape(const Operands& operands, Shape shape) {
+    return {operands.square ? shape.height : shape.width, shape.height};
 }
 
 Shape destinationShape(const Operands& operands, Shape shape) {
@@ -109,7 +114,9 @@ std::string commandLine(int argc, char** argv) {
 
 } // namespace
 
-Frame::Frame(const Operands& operands, Shape shape) : size{shape.width, shape.height} {
+Frame::Frame(const Operands& operands, Shape named) : copied(operands.copied) {
+    const Shape shape = sourceShape(operands, named);
+    size = {shape.width, shape.height};
     for (int type : operands.src)
         src.push_back(pooled(operands.nonzero ? 'n' : 's', src.size(), type, shape, operands.strided, operands.reach));
     for (int type : operands.dst)
@@ -119,8 +126,8 @@ Frame::Frame(const Operands& operands, Shape shape) : size{shape.width, shape.he
 
 int64_t Frame::bytes() const {
     size_t sum = mask.total();
-    for (const auto* images : {&src, &dst})
-        for (const cv::Mat& image : *images) sum += image.total() * image.elemSize();
+    for (const cv::Mat& image : src) sum += image.total() * image.elemSize();
+    for (const cv::Mat& image : dst) sum += image.total() * image.elemSize() * (copied ? 2 : 1);
     return static_cast<int64_t>(sum);
 }
 

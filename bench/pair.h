@@ -39,6 +39,8 @@ struct Operands {
     int reach = 0;           // so many more pixels lie on each side of a source, for both sides to read
     int margin = 0;          // the destination is larger than the source by this much on each side
     bool transposed = false; // the destination is height x width
+    bool square = false;     // as many columns as rows
+    bool copied = false;     // in place: every byte of the destination is read and written
     bool strided = false;    // every image is a region of a larger one: rows neither contiguous nor aligned
     Floor floor = Floor::None;
     int threads = 1; // team size of both sides
@@ -71,12 +73,37 @@ struct Frame {
     std::vector<cv::Mat> dst;
     cv::Mat mask;
     ImageSize size; // region of the call
+    bool copied = false;
 };
+
+// The names of element types in rows, and in functions.
+template <class T>
+const char* codeOf() {
+    constexpr bool isSigned = std::is_signed_v<T>;
+    if constexpr (std::is_floating_point_v<T>) return "32f";
+    if constexpr (sizeof(T) == 1) return isSigned ? "8s" : "8u";
+    if constexpr (sizeof(T) == 2) return isSigned ? "16s" : "16u";
+    return "32s";
+}
+template <class T>
+int typeOf(int channels) {
+    return CV_MAKETYPE(cv::traits::Depth<T>::value, channels);
+}
+template <class... T>
+std::string rowName(const std::string& family, const std::string& layout) {
+    return (family + "_" + ... + codeOf<T>()) + "_" + layout;
+}
 
 // Calls a function of the shape src, srcStep, dst, dstStep, roiSize, then the family's own arguments.
 template <class S, class D, class... Rest, class... Own>
 PxlStatus unary(PxlStatus (*function)(const S*, int, D*, int, ImageSize, Rest...), Frame& f, Own... own) {
     return function(f.in<S>(), f.inStep(), f.out<D>(), f.outStep(), f.size, own...);
+}
+
+// The same in place.
+template <class T, class... Rest, class... Own>
+PxlStatus inPlace(PxlStatus (*function)(T*, int, ImageSize, Rest...), Frame& f, Own... own) {
+    return function(f.out<T>(), f.outStep(), f.size, own...);
 }
 
 // The same for a masked function.

@@ -42,6 +42,30 @@ PXL_INLINE void unpackFew(uint64_t bits, ptrdiff_t n, uint8_t* d) {
     StoreU(unpackVector(bits << (n - vecBytes)), d + n - vecBytes);
 }
 
+// The byte and the bit of pixel i, for rows that begin at bit 0.
+struct BitPlaces {
+    uint8_t byte[64], flag[64];
+    constexpr BitPlaces() : byte(), flag() {
+        for (int i = 0; i < 64; ++i) {
+            byte[i] = static_cast<uint8_t>(i / 8);
+            flag[i] = static_cast<uint8_t>(0x80 >> i % 8);
+        }
+    }
+};
+inline constexpr BitPlaces bitPlaces;
+
+// A vector of pixels from bits that begin `offset` bits into 8 bytes and end in them: every lane takes its byte and looks at its bit.
+struct UnpackLanes {
+    Vec<uint8_t> byte, flag;
+
+    PXL_INLINE explicit UnpackLanes(ptrdiff_t offset)
+        : byte(LoadU(bitPlaces.byte + offset)), flag(LoadU(bitPlaces.flag + offset)) {}
+    PXL_INLINE Vec<uint8_t> operator()(const uint8_t* p) const {
+        const auto eight = load1(reinterpret_cast<const uint64_t*>(p));
+        return (TableLookupBytesOr0(BitCast<uint8_t>(Set<uint64_t>(eight)), byte) & flag) == flag;
+    }
+};
+
 void unpackRow(ptrdiff_t n, const uint8_t* s, int bit, uint8_t* d) {
     if (n < 64) return unpackFew(loadFewBits(s, bit, n), n, d);
     for (ptrdiff_t x = 0; x + 64 < n; x += 64) unpack64(load64Bits(s + x / 8, bit), d + x);
@@ -49,11 +73,45 @@ void unpackRow(ptrdiff_t n, const uint8_t* s, int bit, uint8_t* d) {
     unpack64(load64Bits(s + last / 8, static_cast<int>(last % 8)), d + n - 64);
 }
 
+// The same for rows of at least 96 pixels, or of exactly 64. The last two vectors end with the row, and so do their bits.
+class LongRows {
+public:
+    LongRows(ptrdiff_t n, int bit, ptrdiff_t byteCount)
+        : n_(n), end_(byteCount - 8), lanes_(bit), lastLanes_(bit + n - vecBytes - 8 * end_) {}
+
+    static constexpr ptrdiff_t fetched = 512; // lines are asked for so many pixels ahead
+    static bool suit(ptrdiff_t n) { return n >= 64 + vecBytes || n == 64; }
+
+    PXL_INLINE void operator()(const uint8_t* s, uint8_t* d) const {
+        ptrdiff_t x = 0;
+        for (; x + 64 + fetched <= n_; x += 64) {
+            fetchForStores<lineBytes>(d + x + fetched);
+            unrolled<64 / vecBytes>([&](auto k) __attribute__((always_inline)) {
+                StoreU(lanes_(s + x / 8 + k * (vecBytes / 8)), d + x + k * vecBytes);
+            });
+        }
+        for (; x + 64 <= n_; x += vecBytes) StoreU(lanes_(s + x / 8), d + x);
+        if (n_ - x > vecBytes) StoreU(lastLanes_(s + end_ - vecBytes / 8), d + n_ - 2 * vecBytes);
+        StoreU(lastLanes_(s + end_), d + n_ - vecBytes);
+    }
+
+private:
+    ptrdiff_t n_, end_; // where the last 8 bytes begin
+    UnpackLanes lanes_, lastLanes_;
+};
+
 PxlStatus UnpackBits(Image<const uint8_t> src, int srcBitOffset, Image<uint8_t> dst, ImageSize roi) {
     if (const PxlStatus status =
             check(null(src, dst), size(roi), steps(src, dst), refuse(srcBitOffset < 0, PXL_E_SIZE)))
         return status;
     const Bits bits(src, srcBitOffset, roi.width);
+    const bool overlap = extentOf(bits.bytes, bits.byteCount, roi.height).meets(extentOf(dst, roi.width, roi.height));
+    if constexpr (hasByteShuffle)
+        if (LongRows::suit(roi.width) && !overlap) {
+            const LongRows row(roi.width, bits.first, bits.byteCount);
+            for (ptrdiff_t y = 0; y < roi.height; ++y) row(bits.bytes.at(0, y), dst.at(0, y));
+            return PXL_OK;
+        }
     for (ptrdiff_t y = 0; y < roi.height; ++y) {
         const auto s = rowOf(bits.bytes, y);
         const auto d = rowOf(dst, y);

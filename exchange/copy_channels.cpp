@@ -39,10 +39,17 @@ PXL_INLINE void extractChannelRow(ptrdiff_t n, const T* s, T* d) {
     for (ptrdiff_t x = 0; x < n; ++x) store1(d + x, load1(s + x * N));
 }
 
+// How a channel of pixels is replaced: by whole vectors of pixels, with the lines of the destination fetched ahead in large
+// images; or element by element, which is faster for elements of 4 bytes between the sizes of the first and the second-level
+// cache: the line of a store need not have arrived before the next pixel is looked at.
+enum class Replacing { ByVectors, ByElements, Fetched };
+
 // source(Part<P>, ChannelOf<Channel>, x, vectors) gives P pixels from x on that hold the new values of the channel.
 // False, and nothing done, for very short rows.
-template <class T, int N, class Source>
+template <Replacing How, class T, int N, class Source>
 PXL_INLINE bool replaceChannelRow(ptrdiff_t n, Source source, T* d) {
+    if constexpr (How == Replacing::ByElements) return false;
+    constexpr ptrdiff_t ahead = 16 * lanes<T>;
     const auto replaced = [&]<int P, int Channel>(Part<P> p, ChannelOf<Channel> c, ptrdiff_t x) {
         Vec<T> from[N];
         source(p, c, x, from);
@@ -52,6 +59,7 @@ PXL_INLINE bool replaceChannelRow(ptrdiff_t n, Source source, T* d) {
         return pixels;
     };
     const auto part = [&]<int P>(Part<P> p, ptrdiff_t x) {
+        if (How == Replacing::Fetched && x + ahead + lanes<T> <= n) fetchForStores<N * vecBytes>(d + (x + ahead) * N);
         storePixels<P>(replaced(p, ChannelOf<0>{}, x).v, d + x * N);
     };
     const auto end = [&]<int P>(Part<P> p, ptrdiff_t x) {
@@ -61,29 +69,31 @@ PXL_INLINE bool replaceChannelRow(ptrdiff_t n, Source source, T* d) {
     return rowByPartsAndEnd<lanes<T>, leastPart<T>>(n, part, end);
 }
 
-template <class T, int N>
+template <Replacing How, class T, int N>
 PXL_INLINE void insertChannelRow(ptrdiff_t n, const T* s, T* d) {
     const auto spread = [&]<int P, int Channel>(Part<P>, ChannelOf<Channel>, ptrdiff_t x, Vec<T>(&v)[N]) {
         spreadChannel<Channel>(LoadFirst<P>(s + x), v);
     };
-    if (replaceChannelRow<T, N>(n, spread, d)) return;
+    if (replaceChannelRow<How, T, N>(n, spread, d)) return;
+#pragma GCC unroll 4
     for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x));
 }
 
-template <class T, int N>
+template <Replacing How, class T, int N>
 PXL_INLINE void moveChannelRow(ptrdiff_t n, const T* s, T* d) {
     const auto pixels = [&]<int P, int Channel>(Part<P>, ChannelOf<Channel>, ptrdiff_t x, Vec<T>(&v)[N]) {
         loadPixels<P>(s + x * N - Channel, v);
     };
-    if (replaceChannelRow<T, N>(n, pixels, d)) return;
+    if (replaceChannelRow<How, T, N>(n, pixels, d)) return;
+#pragma GCC unroll 4
     for (ptrdiff_t x = 0; x < n; ++x) store1(d + x * N, load1(s + x * N));
 }
 
-template <class T, int SrcElements, int DstElements>
+template <Replacing How, class T, int SrcElements, int DstElements>
 void copyChannelRow(ptrdiff_t n, const T* s, T* d) {
-    if constexpr (SrcElements == DstElements) moveChannelRow<T, SrcElements>(n, s, d);
+    if constexpr (SrcElements == DstElements) moveChannelRow<How, T, SrcElements>(n, s, d);
     if constexpr (SrcElements > DstElements) extractChannelRow<T, SrcElements>(n, s, d);
-    if constexpr (SrcElements < DstElements) insertChannelRow<T, DstElements>(n, s, d);
+    if constexpr (SrcElements < DstElements) insertChannelRow<How, T, DstElements>(n, s, d);
 }
 
 // Whether two channels of the same pixels are addressed, which overlap nowhere though their rows do.
@@ -95,16 +105,34 @@ bool areChannelsOfOneImage(Image<const T, Elements, 1> src, Image<T, Elements, 1
 }
 
 template <class T, int SrcElements, int DstElements>
-PxlStatus CopyChannel(Image<const T, SrcElements, 1> src, Image<T, DstElements, 1> dst, ImageSize roi) {
-    if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
-    const auto row = copyChannelRow<T, SrcElements, DstElements>;
+PXL_INLINE void walkChannel(ImageSize roi, void (*row)(ptrdiff_t, const T*, T*), Image<const T, SrcElements, 1> src,
+                            Image<T, DstElements, 1> dst) {
     if constexpr (SrcElements == DstElements)
         if (areChannelsOfOneImage(src, dst)) {
-            const auto both = [&](ptrdiff_t n, T* d) { row(n, d + (src.base - dst.base), d); };
-            walk(roi, both, dst);
-            return PXL_OK;
+            const auto both = [=](ptrdiff_t n, T* d) { row(n, d + (src.base - dst.base), d); };
+            return walk(roi, both, dst);
         }
     walk(roi, row, src, dst);
+}
+
+template <class T, int SrcElements, int DstElements>
+[[gnu::noinline]] void replaceLargeChannel(ImageSize roi, Image<const T, SrcElements, 1> src,
+                                           Image<T, DstElements, 1> dst) {
+    if (isBeyondSecondCache(roi.width, roi.height, src, dst))
+        walkChannel(roi, copyChannelRow<Replacing::Fetched, T, SrcElements, DstElements>, src, dst);
+    else if constexpr (sizeof(T) == 4)
+        walkChannel(roi, copyChannelRow<Replacing::ByElements, T, SrcElements, DstElements>, src, dst);
+    else
+        walkChannel(roi, copyChannelRow<Replacing::ByVectors, T, SrcElements, DstElements>, src, dst);
+}
+
+template <class T, int SrcElements, int DstElements>
+PxlStatus CopyChannel(Image<const T, SrcElements, 1> src, Image<T, DstElements, 1> dst, ImageSize roi) {
+    if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
+    if (SrcElements <= DstElements && isFetched(roi.width, roi.height, src, dst))
+        replaceLargeChannel(roi, src, dst);
+    else
+        walkChannel(roi, copyChannelRow<Replacing::ByVectors, T, SrcElements, DstElements>, src, dst);
     return PXL_OK;
 }
 
@@ -150,20 +178,36 @@ PXL_INLINE void fetchPlanes(T* const (&d)[Count], ptrdiff_t x) {
     for (int p = 0; p < Count; ++p) fetchForStores<vecBytes>(d[p] + x);
 }
 
-template <class T, int Count>
-PXL_INLINE void splitRow(ptrdiff_t n, const T* s, T* const (&d)[Count], Storing storing) {
+template <class T, int Count, int... P>
+PXL_INLINE ptrdiff_t firstOfLines(T* const (&d)[Count], std::integer_sequence<int, P...>) {
+    return firstOfLine(1, d[P]...);
+}
+
+template <bool Fetched, class T, int Count>
+PXL_INLINE void splitCachedRow(ptrdiff_t n, const T* s, T* const (&d)[Count]) {
     constexpr int most = lanes<T>;
-    constexpr int line = lineBytes / static_cast<int>(sizeof(T));
     ptrdiff_t x = 0;
-    if (storing == Storing::Streamed)
-        for (; x + line <= n; x += line) streamSplitLines(s, d, x);
-    if (storing == Storing::Fetched)
+    if constexpr (Fetched)
         for (; x + (fetchedParts + 1) * most <= n; x += most) {
             fetchPlanes(d, x + fetchedParts * most);
             splitPart<most>(s, d, x);
         }
     const auto part = [&]<int P>(Part<P>, ptrdiff_t at) __attribute__((always_inline)) { splitPart<P>(s, d, at); };
     if (!rowByParts<most, leastPart<T>>(n, part, x)) splitPixels(n, s, d);
+}
+
+// Whole lines are streamed. What lies before and behind them is done as rows of its own: stores of both kinds to one line
+// would cost more than they save.
+template <class T, int Count>
+[[gnu::noinline]] void splitStreamedRow(ptrdiff_t n, const T* s, T* const (&d)[Count]) {
+    constexpr int line = lineBytes / static_cast<int>(sizeof(T));
+    ptrdiff_t x = firstOfLines(d, std::make_integer_sequence<int, Count>());
+    if (x < 0 || x > n) return splitCachedRow<true>(n, s, d);
+    splitCachedRow<false>(x, s, d);
+    for (; x + line <= n; x += line) streamSplitLines(s, d, x);
+    T* rest[Count];
+    for (int p = 0; p < Count; ++p) rest[p] = d[p] + x;
+    splitCachedRow<false>(n - x, s + x * Count, rest);
 }
 
 template <class T, int Count>
@@ -183,13 +227,11 @@ PXL_INLINE void mergePart(const T* const (&s)[Count], T* d, ptrdiff_t x) {
     StoreInterleaved<P, Stores>(v, d + x * Count);
 }
 
-template <class T, int Count>
-PXL_INLINE void mergeRow(ptrdiff_t n, const T* const (&s)[Count], T* d, Storing storing) {
+template <bool Fetched, class T, int Count>
+PXL_INLINE void mergeCachedRow(ptrdiff_t n, const T* const (&s)[Count], T* d) {
     constexpr int most = lanes<T>;
     ptrdiff_t x = 0;
-    if (storing == Storing::Streamed)
-        for (; x + most <= n; x += most) mergePart<Streamed, most>(s, d, x);
-    if (storing == Storing::Fetched)
+    if constexpr (Fetched)
         for (; x + (fetchedParts + 1) * most <= n; x += most) {
             fetchForStores<Count * vecBytes>(d + (x + fetchedParts * most) * Count);
             mergePart<Cached, most>(s, d, x);
@@ -200,34 +242,77 @@ PXL_INLINE void mergeRow(ptrdiff_t n, const T* const (&s)[Count], T* d, Storing 
     if (!rowByParts<most, leastPart<T>>(n, part, x)) mergePixels(n, s, d);
 }
 
-// Walks an image of pixels and its planes. The kernel is also told how to store.
-template <class Kernel, class Pixels, class T, int Count>
-void walkPlanes(ImageSize roi, Kernel kernel, Pixels pixels, Planes<T, Count> planes) {
-    const auto walkImages = [&](auto... plane) {
-        const Storing storing = storingOf(roi.width, roi.height, pixels, plane...);
-        const auto row = [=](ptrdiff_t n, auto... p) { kernel(storing, n, p...); };
-        walk(roi, row, pixels, plane...);
-        finishStreamed(storing == Storing::Streamed);
-    };
+// As splitStreamedRow.
+template <class T, int Count>
+[[gnu::noinline]] void mergeStreamedRow(ptrdiff_t n, const T* const (&s)[Count], T* d) {
+    constexpr int line =
+        lineBytes / static_cast<int>(sizeof(T)); // so many pixels fill as many lines as they have elements
+    ptrdiff_t x = firstOfLine(Count, d);
+    if (x < 0 || x > n) return mergeCachedRow<true>(n, s, d);
+    mergeCachedRow<false>(x, s, d);
+    for (; x + line <= n; x += line)
+#pragma GCC unroll 4
+        for (int i = 0; i < line; i += lanes<T>) mergePart<Streamed, lanes<T>>(s, d, x + i);
+    const T* rest[Count];
+    for (int p = 0; p < Count; ++p) rest[p] = s[p] + x;
+    mergeCachedRow<false>(n - x, rest, d + x * Count);
+}
+
+// Rows of small images, and of large ones.
+template <class T, int Count>
+struct SplitRows {
+    static void small(ptrdiff_t n, const T* s, auto... d) { splitCachedRow<false, T, Count>(n, s, {d...}); }
+    static void fetched(ptrdiff_t n, const T* s, auto... d) { splitCachedRow<true, T, Count>(n, s, {d...}); }
+    static void streamed(ptrdiff_t n, const T* s, auto... d) { splitStreamedRow<T, Count>(n, s, {d...}); }
+};
+template <class T, int Count>
+struct MergeRows {
+    static void small(ptrdiff_t n, T* d, auto... s) { mergeCachedRow<false, T, Count>(n, {s...}, d); }
+    static void fetched(ptrdiff_t n, T* d, auto... s) { mergeCachedRow<true, T, Count>(n, {s...}, d); }
+    static void streamed(ptrdiff_t n, T* d, auto... s) { mergeStreamedRow<T, Count>(n, {s...}, d); }
+};
+
+// Calls walk with the planes, one by one.
+template <class Walk, class T, int Count>
+PXL_INLINE void withPlanes(Planes<T, Count> planes, Walk&& walkImages) {
     [&]<int... p>(std::integer_sequence<int, p...>) { walkImages(planes[p]...); }
     (std::make_integer_sequence<int, Count>{});
+}
+
+// A walk of its own, in which small calls take no part.
+template <class Rows, class Pixels, class T, int Count>
+[[gnu::noinline]] void walkLarge(ImageSize roi, Pixels pixels, Planes<T, Count> planes, Storing storing) {
+    const auto fetched = [](auto... row) { Rows::fetched(row...); };
+    const auto streamed = [](auto... row) { Rows::streamed(row...); };
+    withPlanes(planes, [&](auto... plane) {
+        if (storing == Storing::Streamed)
+            walk(roi, streamed, pixels, plane...);
+        else
+            walk(roi, fetched, pixels, plane...);
+    });
+    finishStreamed(storing == Storing::Streamed);
+}
+
+// Walks an image of pixels and its planes.
+template <class Rows, class Pixels, class T, int Count>
+PXL_INLINE void walkPlanes(ImageSize roi, Pixels pixels, Planes<T, Count> planes) {
+    const Storing storing = storingOfPlanes(roi.width, roi.height, pixels);
+    if (storing != Storing::Cached) return walkLarge<Rows>(roi, pixels, planes, storing);
+    const auto small = [](auto... row) { Rows::small(row...); };
+    withPlanes(planes, [&](auto... plane) { walk(roi, small, pixels, plane...); });
 }
 
 template <class T, int Count>
 PxlStatus Split(Image<const T, Count> src, Planes<T, Count> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
-    const auto row = [](Storing storing, ptrdiff_t n, const T* s, auto... d) {
-        splitRow<T, Count>(n, s, {d...}, storing);
-    };
-    walkPlanes(roi, row, src, dst);
+    walkPlanes<SplitRows<T, Count>>(roi, src, dst);
     return PXL_OK;
 }
 
 template <class T, int Count>
 PxlStatus Merge(Planes<const T, Count> src, Image<T, Count> dst, ImageSize roi) {
     if (const PxlStatus status = check(null(src, dst), size(roi))) return status;
-    const auto row = [](Storing storing, ptrdiff_t n, T* d, auto... s) { mergeRow<T, Count>(n, {s...}, d, storing); };
-    walkPlanes(roi, row, dst, src);
+    walkPlanes<MergeRows<T, Count>>(roi, dst, src);
     return PXL_OK;
 }
 

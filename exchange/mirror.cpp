@@ -4,8 +4,9 @@
 // the first `Moved` bytes change places: its alpha is written back with the value it had, and the alpha of the last
 // source pixel of a row, which may lie outside the caller's memory, is not read.
 //
-// The in-place form exchanges two disjoint rows, or the two halves of a row, through a small buffer, so both forms
-// share the row moves. Rows that overlap in any other way are moved pixel by pixel, source rows in ascending order.
+// The in-place form exchanges two rows, or the two halves of a row (exchange/exchange_rows.h). Rows that overlap in any other
+// way are moved pixel by pixel, source rows in ascending order.
+#include "exchange/exchange_rows.h"
 #include "exchange/reverse.h"
 #include "frame/checks.h"
 #include "frame/pixel.h"
@@ -16,16 +17,6 @@
 
 namespace pxl::PXL_TARGET::exchange {
 namespace {
-
-// What is stored at d where pixels of AC4 move there.
-template <int Bytes>
-PXL_INLINE Vec<uint8_t> keepingAlpha(Vec<uint8_t> v, const uint8_t* d) {
-    return IfThenElse(LoadU(alphaBytes<Bytes / 4>.bytes), LoadU(d), v);
-}
-template <int Bytes>
-PXL_INLINE Block keepingAlpha(Block v, const uint8_t* d) {
-    return IfThenElse(LoadBlock<16>(alphaBytes<Bytes / 4>.bytes), loadWord<Block>(d), v);
-}
 
 // Fills a run of at least one register with make(x), the register at x. The last one may overlap the one before: the
 // rows are disjoint, so that its bytes come out the same. It is made first, since it could not load what has just been
@@ -114,25 +105,6 @@ PXL_INLINE void reverseRowKeepingAlpha(const uint8_t* s, uint8_t* d, ptrdiff_t b
     for (ptrdiff_t x = 0; x < bytes; x += Bytes) movePixel<Moved>(end - Bytes - x, d + x);
 }
 
-// Pixels of 3, 6 and 12 bytes.
-template <int Bytes>
-PXL_INLINE void reverseRowOfThrees(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
-    const uint8_t* end = s + bytes;
-    ptrdiff_t x = 0;
-    if constexpr (hasByteShuffle) {
-        if (bytes >= 96) {
-            for (; x + 96 <= bytes; x += 96) storeReversed96<Bytes>(end - x - 96, d + x);
-            if (x < bytes) storeReversed96<Bytes>(s, d + bytes - 96);
-            return;
-        }
-        if constexpr (Bytes < 12)
-            for (; x + 16 <= bytes; x += 16 / Bytes * Bytes) storeReversed16<Bytes>(end - x - 16, d + x);
-    }
-    constexpr ptrdiff_t word = sizeof(typename PixelWord<Bytes>::type);
-    for (; x + word <= bytes; x += Bytes) storePixelWord<Bytes>(end - x - word, d + x);
-    for (; x < bytes; x += Bytes) movePixel<Bytes>(end - x - Bytes, d + x);
-}
-
 // ---- regions --------------------------------------------------------------------------------------------------------
 
 // Moves rows of so many bytes alike; no destination row meets a source row.
@@ -179,20 +151,6 @@ void mirrorPixels(Image<const uint8_t, Bytes, Moved> src, Image<uint8_t, Bytes, 
     }
 }
 
-// Exchanges two disjoint rows, or halves of one. Reversed, the beginning of one meets the end of the other.
-void exchangeRows(uint8_t* a, uint8_t* b, ptrdiff_t bytes, MoveRows* move, bool reversed) {
-    constexpr ptrdiff_t chunk = 480; // whole pixels of every size
-    alignas(vecBytes) uint8_t held[chunk];
-    for (ptrdiff_t n; bytes > 0; bytes -= n, a += n) {
-        n = bytes < chunk ? bytes : chunk;
-        uint8_t* other = reversed ? b + bytes - n : b;
-        moveShortRow(a, held, n);
-        move({other, 0}, {a, 0}, n, 1);
-        move({held, 0}, {other, 0}, n, 1);
-        if (!reversed) b += n;
-    }
-}
-
 template <int Bytes, int Moved>
 void exchangeOverlappingRows(uint8_t* a, uint8_t* b, ptrdiff_t width, bool reversed) {
     for (ptrdiff_t x = 0; x < width; ++x)
@@ -202,26 +160,28 @@ void exchangeOverlappingRows(uint8_t* a, uint8_t* b, ptrdiff_t width, bool rever
 template <int Bytes, int Moved>
 void mirrorPixelsInPlace(Image<uint8_t, Bytes, Moved> image, ImageSize roi, PxlAxis flip) {
     const bool reversed = flip != PXL_AXIS_HORIZONTAL;
-    MoveRows* const move = moveRows<Bytes, Moved>(reversed);
+    const auto exchange = [=](RowPairs pairs) { exchangeRows<Bytes, Moved>(pairs, reversed); };
     const ptrdiff_t bytes = roi.width * image.pixelBytes;
     const ptrdiff_t half = roi.width / 2 * image.pixelBytes;
-    const auto reverseHalves = [=](ptrdiff_t y) {
+    const auto reverseHalves = [=](ptrdiff_t y, ptrdiff_t rows) {
         uint8_t* const row = image.at(0, y);
-        exchangeRows(row, row + bytes - half, half, move, true);
+        if (half > 0) exchange({{row, image.step}, {row + bytes - half, image.step}, half, rows});
     };
-    if (flip == PXL_AXIS_VERTICAL) {
-        for (ptrdiff_t y = 0; y < roi.height; ++y) reverseHalves(y);
-        return;
+    const ptrdiff_t pairs = roi.height / 2;
+    const Image<uint8_t> upper = elementsOf(image);
+    const Image<uint8_t> lower = {image.at(0, roi.height - 1), -image.step};
+    if (flip == PXL_AXIS_VERTICAL) return reverseHalves(0, roi.height);
+    if (image.step >= bytes || image.step <= -bytes) {
+        exchange({upper, lower, bytes, pairs});
+    } else {
+        for (ptrdiff_t y = 0; y < pairs; ++y) {
+            if (meet(upper.at(0, y), lower.at(0, y), bytes))
+                exchangeOverlappingRows<Bytes, Moved>(upper.at(0, y), lower.at(0, y), roi.width, reversed);
+            else
+                exchange({rowOf(upper, y), rowOf(lower, y), bytes, 1});
+        }
     }
-    for (ptrdiff_t y = 0; y < roi.height / 2; ++y) {
-        uint8_t* const row = image.at(0, y);
-        uint8_t* const other = image.at(0, roi.height - 1 - y);
-        if (meet(row, other, bytes))
-            exchangeOverlappingRows<Bytes, Moved>(row, other, roi.width, reversed);
-        else
-            exchangeRows(row, other, bytes, move, reversed);
-    }
-    if (reversed && roi.height % 2) reverseHalves(roi.height / 2);
+    if (reversed && roi.height % 2) reverseHalves(pairs, 1);
 }
 
 // ---- entries --------------------------------------------------------------------------------------------------------

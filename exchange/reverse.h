@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/pixel.h"
+#include "frame/vec/mask.h"
 #include "frame/vec/shuffle.h"
 
 namespace pxl::PXL_TARGET::exchange {
@@ -122,6 +123,37 @@ PXL_INLINE void storeReversed96(const uint8_t* s, uint8_t* d) {
     unrolled<96 / vecBytes>([&](auto j) __attribute__((always_inline)) {
         StoreU(reversedVector<Bytes, j * vecBytes>(s), d + j * vecBytes);
     });
+}
+
+// Pixels of 3, 6 and 12 bytes.
+template <int Bytes>
+PXL_INLINE void reverseRowOfThrees(const uint8_t* s, uint8_t* d, ptrdiff_t bytes) {
+    const uint8_t* end = s + bytes;
+    ptrdiff_t x = 0;
+    if constexpr (hasByteShuffle) {
+        if (bytes >= 96) {
+            for (; x + 96 <= bytes; x += 96) storeReversed96<Bytes>(end - x - 96, d + x);
+            if (x < bytes) storeReversed96<Bytes>(s, d + bytes - 96);
+            return;
+        }
+        if constexpr (Bytes < 12)
+            for (; x + 16 <= bytes; x += 16 / Bytes * Bytes) storeReversed16<Bytes>(end - x - 16, d + x);
+    }
+    constexpr ptrdiff_t word = sizeof(typename PixelWord<Bytes>::type);
+    for (; x + word <= bytes; x += Bytes) storePixelWord<Bytes>(end - x - word, d + x);
+    for (; x < bytes; x += Bytes) movePixel<Bytes>(end - x - Bytes, d + x);
+}
+
+// ---- alpha ----------------------------------------------------------------------------------------------------------
+
+// What is stored at d where pixels of AC4 move there.
+template <int Bytes>
+PXL_INLINE Vec<uint8_t> keepingAlpha(Vec<uint8_t> v, const uint8_t* d) {
+    return IfThenElse(LoadU(alphaBytes<Bytes / 4>.bytes), LoadU(d), v);
+}
+template <int Bytes>
+PXL_INLINE Block keepingAlpha(Block v, const uint8_t* d) {
+    return IfThenElse(LoadBlock<16>(alphaBytes<Bytes / 4>.bytes), loadWord<Block>(d), v);
 }
 
 } // namespace pxl::PXL_TARGET::exchange

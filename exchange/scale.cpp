@@ -42,17 +42,19 @@ struct NarrowToByte {
 };
 
 // v / 16843009 rounded down, plus 128. With b = 16843009, k * b is k * 2^24 + (k * b >> 8), so without its own v >> 8 a
-// v has the quotient in its upper byte; negative values sit one too high.
+// v has the quotient in its upper byte; negative values sit one too high. Quotients are those of signed bytes, whose sign
+// bit is turned when they are narrow.
 template <>
 struct NarrowToByte<int32_t> {
     using Source = int32_t;
     using Result = uint8_t;
     using Lane = int32_t;
+    using Narrow = int8_t;
 
     PXL_INLINE Vec<int32_t> operator()(Vec<int32_t> v) const {
-        const Vec<int32_t> quotient = ShiftRight<24>(v - ShiftRight<8>(v) + ShiftRight<31>(v));
-        return quotient + Set<int32_t>(128);
+        return ShiftRight<24>(v - ShiftRight<8>(v) + ShiftRight<31>(v));
     }
+    PXL_INLINE Vec<uint8_t> finish(Vec<int8_t> v) const { return BitCast<uint8_t>(v) ^ Set<uint8_t>(0x80); }
 };
 
 struct ToFloat {

@@ -6,6 +6,9 @@
 //     using Source, Result   the element types in memory, of different sizes
 //     using Lane             Result, or a signed type of twice or four times its size, narrowed with saturation
 //     Vec<Lane> operator()(Vec<Source> v) const   of the first lanes<Lane> lanes of v
+// and may finish the narrowed results:
+//     using Narrow                                what lanes are narrowed to, of the size of Result
+//     Vec<Result> finish(Vec<Narrow> v) const
 //
 // Since the sizes differ, a source and a destination that share memory are never in place, and the walker hands over
 // either disjoint rows or single pixels. So a row may be finished with a block that overlaps the one before it.
@@ -29,6 +32,20 @@ PXL_INLINE void storeConverted(Vec<D> v, D* d) {
     StoreFirst<Count>(v, d);
 }
 
+// One, two or four vectors of lanes as results.
+template <class Operation, class... V>
+PXL_INLINE auto narrowed(const Operation& operation, V... v) {
+    const auto to = [&]<class D>(D) __attribute__((always_inline)) {
+        if constexpr (sizeof...(V) == 1) return DemoteTo<D>(v...);
+        if constexpr (sizeof...(V) == 2) return OrderedDemote2To<D>(v...);
+        if constexpr (sizeof...(V) == 4) return OrderedDemote4To<D>(v...);
+    };
+    if constexpr (requires { typename Operation::Narrow; })
+        return operation.finish(to(typename Operation::Narrow()));
+    else
+        return to(typename Operation::Result());
+}
+
 template <class Operation, class S>
 PXL_INLINE auto convertUnit(const Operation& operation, const S* s) {
     return operation(LoadFirst<unitOf<Operation>>(s));
@@ -41,14 +58,14 @@ PXL_INLINE auto convertRegister(const Operation& operation, const S* s) {
     constexpr int unit = unitOf<Operation>;
     constexpr int parts = lanes<D> / unit;
     const auto part = [&](int i) { return convertUnit(operation, s + i * unit); };
-    if constexpr (parts == 1) return part(0);
-    if constexpr (parts == 2) return OrderedDemote2To<D>(part(0), part(1));
-    if constexpr (parts == 4) return OrderedDemote4To<D>(part(0), part(1), part(2), part(3));
+    if constexpr (parts == 1) return narrowed(operation, part(0));
+    if constexpr (parts == 2) return narrowed(operation, part(0), part(1));
+    if constexpr (parts == 4) return narrowed(operation, part(0), part(1), part(2), part(3));
 }
 
 template <bool Alpha, class Operation, class S, class D>
 PXL_INLINE void convertOneUnit(const Operation& operation, const S* s, D* d) {
-    storeConverted<unitOf<Operation>, Alpha>(DemoteTo<D>(convertUnit(operation, s)), d);
+    storeConverted<unitOf<Operation>, Alpha>(narrowed(operation, convertUnit(operation, s)), d);
 }
 
 template <bool Alpha, class Operation, class S, class D>
@@ -82,7 +99,7 @@ struct FewResults {
     alignas(vecBytes) D data[lanes<D>];
 
     PXL_INLINE FewResults(const Operation& operation, ptrdiff_t n, const typename Operation::Source* s) {
-        StoreU(DemoteTo<D>(operation(LoadN<unitOf<Operation>>(s, n))), data);
+        StoreU(narrowed(operation, operation(LoadN<unitOf<Operation>>(s, n))), data);
     }
 };
 
@@ -133,11 +150,19 @@ template <class Operation, class S, class D>
     if (n < unit) return convertFewColours(operation, pixels, s, d);
     const Vec<D> kept = LoadFirst<unit>(d + n - unit); // later it would wait for the stores that it overlaps
     convertUnits<true, false>(operation, n, s, d);
-    const Vec<D> last = DemoteTo<D>(convertUnit(operation, s + n - unit));
+    const Vec<D> last = narrowed(operation, convertUnit(operation, s + n - unit));
     StoreFirst<unit>(KeepAlpha<0>(kept, last), d + n - unit);
 }
 
 // ---- the walks: one body per operation, whatever the count of channels ----------------------------------------------
+
+template <class Operation, class S, class D>
+[[gnu::noinline]] PxlStatus convertFetched(Operation operation, Image<const S> src, Image<D> dst, ImageSize roi,
+                                           int channels) {
+    const auto row = [=](ptrdiff_t n, const S* s, D* d) { convertRow<true>(operation, n, s, d); };
+    walkElements(roi, channels, row, src, dst);
+    return PXL_OK;
+}
 
 // Channels alike, as elements.
 template <class Operation, class S, class D>
@@ -152,12 +177,10 @@ template <class Operation, class S, class D>
         walkElements(roi, channels, shortRow, src, dst);
         return PXL_OK;
     }
-    if constexpr (sizeof(D) > sizeof(S)) // widening is bound by its stores
-        if (isFetched(width, roi.height, src, dst)) {
-            const auto fetchedRow = [=](ptrdiff_t n, const S* s, D* d) { convertRow<true>(operation, n, s, d); };
-            walkElements(roi, channels, fetchedRow, src, dst);
-            return PXL_OK;
-        }
+    // Widening is bound by its stores; narrower results are a small part of the traffic.
+    constexpr bool widens = sizeof(D) > sizeof(S);
+    if (widens ? isFetched(width, roi.height, src, dst) : isBeyondSecondCache(width, roi.height, src, dst))
+        return convertFetched(operation, src, dst, roi, channels);
     walkElements(roi, channels, row, src, dst);
     return PXL_OK;
 }

@@ -40,6 +40,22 @@ TEST_P(EveryTarget, MaskOfZerosWritesNothing) {
     }
 }
 
+// Every width and bit offset around those of vectors and words.
+TEST_P(EveryTarget, UnpackingFindsEveryBit) {
+    std::vector<uint8_t> bits(100), dst(702);
+    for (size_t i = 0; i < bits.size(); ++i) bits[i] = static_cast<uint8_t>(i * 2654435761u >> 11);
+    for (int offset = 0; offset < 8; ++offset)
+        for (int width = 1; width <= 700; ++width) {
+            std::fill(dst.begin(), dst.end(), 77);
+            ASSERT_EQ(pxliConvert_1u8u_C1R(bits.data(), 100, offset, dst.data(), 700, {width, 1}), PXL_OK);
+            for (int x = 0; x < width; ++x) {
+                const bool bit = bits[static_cast<size_t>((offset + x) / 8)] >> (7 - (offset + x) % 8) & 1;
+                ASSERT_EQ(dst[static_cast<size_t>(x)], bit ? 255 : 0) << offset << " " << width << " " << x;
+            }
+            ASSERT_EQ(dst[static_cast<size_t>(width)], 77);
+        }
+}
+
 // Images too large for the first cache have their lines fetched ahead, those too large for all are stored past them; row by
 // row they are not.
 TEST_P(EveryTarget, LargeImagesEqualTheirRows) {
@@ -72,6 +88,33 @@ TEST_P(EveryTarget, LargeImagesEqualTheirRows) {
     compare("merge", [&](auto* s, auto* d, auto roi) {
         const uint8_t* planes[3] = {s, s + plane, s + 2 * plane};
         return pxliCopy_8u_P3C3R(planes, step, d, step, roi);
+    });
+    // Planes whose lines begin at the same pixel, and some that have none in common.
+    compare("split at odd places", [&](auto* s, auto* d, auto roi) {
+        uint8_t* planes[3] = {d + 5, d + 5 + plane, d + 5 + 2 * plane};
+        return pxliCopy_8u_C3P3R(s, step, planes, step, {roi.width - 7, roi.height});
+    });
+    compare("split apart", [&](auto* s, auto* d, auto roi) {
+        uint8_t* planes[3] = {d, d + 1 + plane, d + 2 + 2 * plane};
+        return pxliCopy_8u_C3P3R(s, step, planes, step, {roi.width - 7, roi.height});
+    });
+    compare("merge at odd places", [&](auto* s, auto* d, auto roi) {
+        const uint8_t* planes[3] = {s, s + plane, s + 2 * plane};
+        return pxliCopy_8u_P3C3R(planes, step, d + 25, step, {roi.width - 9, roi.height});
+    });
+    const auto floats = [](auto* p) {
+        return reinterpret_cast<
+            std::conditional_t<std::is_const_v<std::remove_pointer_t<decltype(p)>>, const float*, float*>>(p);
+    };
+    compare("insert", [&](auto* s, auto* d, auto roi) {
+        return pxliCopy_32f_C1C3R(floats(s), step, floats(d) + 1, step, {roi.width / 4, roi.height});
+    });
+    compare("move a channel", [&](auto* s, auto* d, auto roi) {
+        return pxliCopy_32f_C4CR(floats(s) + 2, step, floats(d) + 2, step, {roi.width / 6, roi.height});
+    });
+    compare("narrow", [&](auto* s, auto* d, auto roi) {
+        return pxliConvert_32f8s_C1R(floats(s), step, reinterpret_cast<int8_t*>(d), step, {roi.width / 2, roi.height},
+                                     PXL_ROUND_NEAR_EVEN);
     });
     compare("add", [&](auto* s, auto* d, auto roi) { return pxliAdd_8u_C3RSfs(s, step, s, step, d, step, roi, 0); });
 }
