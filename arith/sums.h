@@ -79,21 +79,22 @@ struct ShiftedSum {
 template <>
 struct ShiftedSum<int16_t> {
     RoundingShift<uint16_t> shift;
-    Vec<uint16_t> more, flip;
+    Vec<uint16_t> more, complement;
 
     explicit ShiftedSum(int scaleFactor)
         : shift(scaleFactor - 1), more(Set<uint16_t>(static_cast<uint16_t>(1 << (16 - scaleFactor)))),
-          flip(Set<uint16_t>(scaleFactor == 16)) {}
+          complement(Set<uint16_t>(scaleFactor == 16 ? 0 : 0xFFFF)) {}
 
     PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> a, Vec<int16_t> b) const {
-        const Vec<int16_t> bias = Set<int16_t>(INT16_MIN);
-        const Vec<uint16_t> up = AverageRound(BitCast<uint16_t>(a ^ bias), BitCast<uint16_t>(b ^ bias));
-        const Vec<uint16_t> fraction = BitCast<uint16_t>(a ^ b);
-        return finish(up, AndNot(fraction, shift.quotient(up) ^ flip));
+        const Vec<int16_t> x = a ^ Set<int16_t>(INT16_MIN), y = b ^ Set<int16_t>(INT16_MIN);
+        const Vec<uint16_t> up = AverageRound(BitCast<uint16_t>(x), BitCast<uint16_t>(y));
+        return finish(up, even(up) | BitCast<uint16_t>(x ^ y));
     }
 
-    PXL_INLINE Vec<int16_t> finish(Vec<uint16_t> half, Vec<uint16_t> odd) const {
-        return BitCast<int16_t>(shift.apply(half, odd) - more);
+    // In bit 0, whether ties go to the quotient of the half.
+    PXL_INLINE Vec<uint16_t> even(Vec<uint16_t> half) const { return shift.quotient(half) ^ complement; }
+    PXL_INLINE Vec<int16_t> finish(Vec<uint16_t> half, Vec<uint16_t> even) const {
+        return BitCast<int16_t>(shift.applyEven(half, even) - more);
     }
 };
 
@@ -102,10 +103,9 @@ struct ShiftedDifference16s : ShiftedSum<int16_t> {
     using ShiftedSum<int16_t>::ShiftedSum;
 
     PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> a, Vec<int16_t> b) const {
-        const Vec<uint16_t> down = AverageRound(BitCast<uint16_t>(a ^ Set<int16_t>(INT16_MIN)),
-                                                BitCast<uint16_t>(b ^ Set<int16_t>(INT16_MAX)));
-        const Vec<uint16_t> fraction = BitCast<uint16_t>(a ^ b);
-        return finish(down, (shift.quotient(down) ^ flip) | fraction);
+        const Vec<int16_t> x = a ^ Set<int16_t>(INT16_MIN), y = b ^ Set<int16_t>(INT16_MAX);
+        const Vec<uint16_t> down = AverageRound(BitCast<uint16_t>(x), BitCast<uint16_t>(y));
+        return finish(down, even(down) & BitCast<uint16_t>(x ^ y));
     }
 };
 
