@@ -24,10 +24,10 @@ struct RowPlan {
     const void* op;
     bool* given;          // set where the operation gives its warning
     bool still;           // b is a ConstantRow
+    bool fetched;         // lines are worth asking for ahead
     const uint8_t* alpha; // AC4, else null
     ptrdiff_t endPhase;   // the layout's
     size_t streamed;      // bytes of an element where stores are to pass by the caches, else 0
-    bool fetched;         // whether lines are worth asking for ahead
 
     // Whether whole elements lead from d to the next address at which vectors can be streamed.
     PXL_INLINE bool streams(const void* d) const { return streamed && reinterpret_cast<uintptr_t>(d) % streamed == 0; }
@@ -71,13 +71,13 @@ PXL_INLINE void fetchAhead(const P*... p) {
 }
 
 // The vectors of an AC4 row that begin before `last`. Pixels may be two vectors long.
-template <class Results, class L>
+template <bool Fetched, class Results, class L>
 PXL_INLINE void pixelRow(ptrdiff_t last, Results& results, const RowPlan& plan, L* d) {
     constexpr ptrdiff_t step = lanes<L>;
     const auto alpha = reinterpret_cast<const MaskLane<L>*>(plan.alpha);
-    const bool still = Results::isConstant || plan.still, fetched = plan.fetched;
+    const bool still = Results::isConstant || plan.still;
     const auto store = [&](ptrdiff_t x, ptrdiff_t inPixel, Mask<L> kept) __attribute__((always_inline)) {
-        if (fetched) {
+        if constexpr (Fetched) {
             fetchAhead(results.a + x, d + x);
             if (!still) fetchAhead(results.b + x);
         }
@@ -132,7 +132,10 @@ void elementRow(ptrdiff_t n, const void* a, const void* b, void* to, const RowPl
     const ptrdiff_t last = n - step;
     ptrdiff_t x = 0;
     if (plan.alpha) {
-        pixelRow(last, results, plan, d);
+        if (plan.fetched)
+            pixelRow<true>(last, results, plan, d);
+        else
+            pixelRow<false>(last, results, plan, d);
         x = last;
     }
     if constexpr (Results::isStreamed)
@@ -152,14 +155,17 @@ void elementRow(ptrdiff_t n, const void* a, const void* b, void* to, const RowPl
             StoreU(third, d + x + 2 * step);
         }
     }
-    [[maybe_unused]] const bool still = Results::isConstant || plan.still, fetched = plan.fetched;
-    for (; x < last; x += step, results.next()) {
-        if constexpr (!Results::isUnrolled)
+    if constexpr (!Results::isUnrolled) {
+        const bool moves = !Results::isConstant && !plan.still, fetched = plan.fetched;
+        for (; x < last; x += step, results.next()) {
             if (fetched) {
                 fetchAhead(results.a + x, d + x);
-                if (!still) fetchAhead(results.b);
+                if (moves) fetchAhead(results.b);
             }
-        StoreU(results.at(x), d + x);
+            StoreU(results.at(x), d + x);
+        }
+    } else {
+        for (; x < last; x += step, results.next()) StoreU(results.at(x), d + x);
     }
     StoreU(end, d + last);
     results.finish();

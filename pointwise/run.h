@@ -37,8 +37,8 @@ using Destination = Image<uint8_t, anyElements>;
     const Layout& l = o.layout;
     const ptrdiff_t bytes = bytesOf(o, 3);
     const bool fetched = bytes >= fetchedAheadFrom;
-    const RowPlan pixelPlan{op, given, false, l.alpha, l.endPhase, 0, fetched},
-        plain{op, given, false, nullptr, 0, streamedElement(o, bytes), fetched};
+    const RowPlan pixelPlan{op, given, false, fetched, l.alpha, l.endPhase, 0},
+        plain{op, given, false, fetched, nullptr, 0, streamedElement(o, bytes)};
     const ptrdiff_t e = l.elementBytes, parts = l.parts;
     const auto elements = [=, &plain](ptrdiff_t n, const uint8_t* a, const uint8_t* b, uint8_t* d) {
         row(n * parts, a, b, d, plain);
@@ -65,8 +65,8 @@ using Destination = Image<uint8_t, anyElements>;
     const ptrdiff_t unit = l.elements * l.parts, skipped = (l.elements - l.channels) * l.parts; // lanes
     const ptrdiff_t bytes = bytesOf(o, 2);
     const bool fetched = bytes >= fetchedAheadFrom;
-    const RowPlan plan{op, nullptr, true, l.alpha, l.endPhase, streamedElement(o, bytes), fetched},
-        alike{op, nullptr, false, nullptr, 0, 0, false};
+    const RowPlan plan{op, nullptr, true, fetched, l.alpha, l.endPhase, streamedElement(o, bytes)},
+        alike{op, nullptr, false, false, nullptr, 0, 0};
     const auto kernel = [=, &o, &l, &plan, &alike](ptrdiff_t n, const uint8_t* s, uint8_t* d) {
         const uint8_t* constants = o.constants;
         if (n > 1) return row(n * unit - skipped, s, constants, d, plan);
