@@ -1,8 +1,9 @@
 // Sums and differences with result scaling, of two images or an image and constants: dst = a + b, dst = a - b.
 //
-// No sum is widened but those of 16s under scaleFactor > 1. Halves of unsigned sums come from averages, halves of
-// signed ones from a + b = 2 * (a & b) + (a ^ b), so that the sum's lowest bit stands aside as a fraction:
+// No sum is widened. Halves of unsigned sums come from averages, halves of signed ones from a + b = 2 * (a & b) + (a ^ b), so
+// that the sum's lowest bit stands aside as a fraction:
 //   8u, 16u  the average is (a + b) / 2 rounded up; a fraction there makes it more than the exact half
+//   16s      as 16u, from lanes that are 2^15 more than the elements
 //   32s      the half is rounded down; a fraction there makes it less than the exact half
 // Differences of unsigned lanes stop at 0 before scaling. Complex elements are lanes like any other.
 #pragma once
@@ -48,7 +49,18 @@ struct HalfSum {
     }
 };
 
-// ---- scaleFactor > 1 (16s differences, 32s: > 0) --------------------------------------------------------------------
+// The difference of a + 2^15 and b + 2^15 is 2^16 less than the sum of the one and the complement of the other, and 1. Its half
+// rounded down is their average; the largest difference is rounded up out of the range.
+struct HalfDifference16s {
+    PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> a, Vec<int16_t> b) const {
+        const Vec<uint16_t> x = BitCast<uint16_t>(a ^ Set<int16_t>(INT16_MIN)),
+                            y = BitCast<uint16_t>(b ^ Set<int16_t>(INT16_MAX));
+        const Vec<int16_t> down = BitCast<int16_t>(AverageRound(x, y)) ^ Set<int16_t>(INT16_MIN);
+        return SaturatedAdd(down, (a ^ b) & down & Set<int16_t>(1));
+    }
+};
+
+// ---- scaleFactor > 1 (32s: > 0) --------------------------------------------------------------------
 
 template <class L>
 struct ShiftedSum {
@@ -62,18 +74,38 @@ struct ShiftedSum {
     }
 };
 
-// Sums of pairs of products with 1, or 1 and -1.
-struct ShiftedSum16s {
-    Vec<int16_t> signs;
-    RoundingShift<int32_t> shift;
+// The sum of lanes that are 2^15 more is 2^16 more, which is 2^(16 - scaleFactor) in the result. That is even but for
+// scaleFactor 16, where ties go to the odd neighbour before it is taken off.
+template <>
+struct ShiftedSum<int16_t> {
+    RoundingShift<uint16_t> shift;
+    Vec<uint16_t> more, complement;
 
-    ShiftedSum16s(int scaleFactor, bool difference)
-        : signs(BitCast<int16_t>(Set<uint32_t>(difference ? 0xFFFF0001 : 0x00010001))), shift(scaleFactor) {}
+    explicit ShiftedSum(int scaleFactor)
+        : shift(scaleFactor - 1), more(Set<uint16_t>(static_cast<uint16_t>(1 << (16 - scaleFactor)))),
+          complement(Set<uint16_t>(scaleFactor == 16 ? 0 : 0xFFFF)) {}
 
     PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> a, Vec<int16_t> b) const {
-        const Vec<int32_t> lower = WidenMulPairwiseAdd(InterleaveLower(a, b), signs);
-        const Vec<int32_t> upper = WidenMulPairwiseAdd(InterleaveUpper(a, b), signs);
-        return ReorderDemote2To<int16_t>(shift(lower), shift(upper));
+        const Vec<int16_t> x = a ^ Set<int16_t>(INT16_MIN), y = b ^ Set<int16_t>(INT16_MIN);
+        const Vec<uint16_t> up = AverageRound(BitCast<uint16_t>(x), BitCast<uint16_t>(y));
+        return finish(up, even(up) | BitCast<uint16_t>(x ^ y));
+    }
+
+    // In bit 0, whether ties go to the quotient of the half.
+    PXL_INLINE Vec<uint16_t> even(Vec<uint16_t> half) const { return shift.quotient(half) ^ complement; }
+    PXL_INLINE Vec<int16_t> finish(Vec<uint16_t> half, Vec<uint16_t> even) const {
+        return BitCast<int16_t>(shift.applyEven(half, even) - more);
+    }
+};
+
+// As in HalfDifference16s.
+struct ShiftedDifference16s : ShiftedSum<int16_t> {
+    using ShiftedSum<int16_t>::ShiftedSum;
+
+    PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> a, Vec<int16_t> b) const {
+        const Vec<int16_t> x = a ^ Set<int16_t>(INT16_MIN), y = b ^ Set<int16_t>(INT16_MAX);
+        const Vec<uint16_t> down = AverageRound(BitCast<uint16_t>(x), BitCast<uint16_t>(y));
+        return finish(down, even(down) & BitCast<uint16_t>(x ^ y));
     }
 };
 
@@ -132,10 +164,7 @@ template <class L>
         return pointwise::run<L>(operands, ShiftedSum32s(scaleFactor));
     } else {
         if (scaleFactor == 1) return pointwise::run<L>(operands, HalfSum{});
-        if constexpr (std::is_signed_v<L>)
-            return pointwise::run<L>(operands, ShiftedSum16s(scaleFactor, false));
-        else
-            return pointwise::run<L>(operands, ShiftedSum<L>(scaleFactor));
+        return pointwise::run<L>(operands, ShiftedSum<L>(scaleFactor));
     }
 }
 
@@ -145,12 +174,14 @@ template <class L>
     if (scaleFactor == 0) return pointwise::run<L>(operands, SaturatedDifference{});
     if (scaleFactor < 0)
         return pointwise::run<L>(operands, Scaled{SaturatedDifference{}, SaturatingShift<L>(leftShiftOf(scaleFactor))});
-    if constexpr (sizeof(L) == 4)
+    if constexpr (sizeof(L) == 4) {
         return pointwise::run<L>(operands, ShiftedDifference32s(scaleFactor));
-    else if constexpr (std::is_signed_v<L>)
-        return pointwise::run<L>(operands, ShiftedSum16s(scaleFactor, true));
-    else
+    } else if constexpr (std::is_signed_v<L>) {
+        if (scaleFactor == 1) return pointwise::run<L>(operands, HalfDifference16s{});
+        return pointwise::run<L>(operands, ShiftedDifference16s(scaleFactor));
+    } else {
         return pointwise::run<L>(operands, Scaled{SaturatedDifference{}, RoundingShift<L>(scaleFactor)});
+    }
 }
 
 } // namespace pxl::PXL_TARGET::arith

@@ -36,6 +36,7 @@ struct Operands {
     std::vector<int> dst{};
     bool mask = false;       // an 8u mask, about half of it set, at random
     bool nonzero = false;    // no element of a source is 0
+    bool alpha = false;      // the last of four elements is not compared: the peer writes it
     int reach = 0;           // so many more pixels lie on each side of a source, for both sides to read
     int margin = 0;          // the destination is larger than the source by this much on each side
     bool transposed = false; // the destination is height x width

@@ -8,7 +8,9 @@ using namespace pxlbench;
 namespace {
 
 template <class T>
-constexpr T middle = static_cast<T>(sizeof(T) == 1 ? 100 : sizeof(T) == 2 ? 1000 : 0.25);
+constexpr T middle = static_cast<T>(sizeof(T) == 1   ? 100
+                                    : sizeof(T) == 2 ? 1000
+                                                     : 0.25);
 
 template <class T>
 Operands images(int channels) {

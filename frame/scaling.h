@@ -73,7 +73,9 @@ public:
 
     // The same for v and a fraction: bit 0 of `odd` is to be set where v is less than the value by a fraction too, and
     // clear where v is more than it by a fraction, below 1 in both cases.
-    PXL_INLINE Vec<T> apply(Vec<T> v, Vec<T> odd) const { return rounded_(SaturatedSub(v, AndNot(odd, Set<T>(1)))); }
+    PXL_INLINE Vec<T> apply(Vec<T> v, Vec<T> odd) const { return applyEven(v, ~odd); }
+    // From the complement of `odd`.
+    PXL_INLINE Vec<T> applyEven(Vec<T> v, Vec<T> even) const { return rounded_(SaturatedSub(v, even & Set<T>(1))); }
 
 private:
     Vec<uint16_t> power_;

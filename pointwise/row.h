@@ -6,6 +6,7 @@
 //     Vec<L> at(x)                     of the vector at lane x, and of b where it stands
 //     void next()                      b moves on by a vector
 //     Vec<L> inPixels(x, o, kept)      of a vector in an AC4 row, at lane x of a and o of b; the lanes `kept` do not count
+//     const L *a, *b
 //     static constexpr bool isConstant whether b is always a ConstantRow
 //     Vec<L> atEnd(const RowEnd<L>&)   of the vector that ends the row
 //     void finish()                    called when the row is done
@@ -23,6 +24,7 @@ struct RowPlan {
     const void* op;
     bool* given;          // set where the operation gives its warning
     bool still;           // b is a ConstantRow
+    bool fetched;         // lines are worth asking for ahead
     const uint8_t* alpha; // AC4, else null
     ptrdiff_t endPhase;   // the layout's
     size_t streamed;      // bytes of an element where stores are to pass by the caches, else 0
@@ -59,13 +61,26 @@ private:
     PXL_INLINE ptrdiff_t phase() const { return plan.endPhase / static_cast<ptrdiff_t>(sizeof(L)); }
 };
 
+// Asks for the lines so many bytes ahead, in regions of so many bytes with all their images. By itself, the hardware stops at the
+// end of a page, and neither loops of many instructions look far beyond it nor those whose stores wait for a load. What is in
+// the caches would only be held up.
+inline constexpr ptrdiff_t fetchedAhead = 2048, fetchedAheadFrom = 16'000'000;
+template <class... P>
+PXL_INLINE void fetchAhead(const P*... p) {
+    (Prefetch(reinterpret_cast<const uint8_t*>(p) + fetchedAhead), ...);
+}
+
 // The vectors of an AC4 row that begin before `last`. Pixels may be two vectors long.
-template <class Results, class L>
+template <bool Fetched, class Results, class L>
 PXL_INLINE void pixelRow(ptrdiff_t last, Results& results, const RowPlan& plan, L* d) {
     constexpr ptrdiff_t step = lanes<L>;
     const auto alpha = reinterpret_cast<const MaskLane<L>*>(plan.alpha);
     const bool still = Results::isConstant || plan.still;
     const auto store = [&](ptrdiff_t x, ptrdiff_t inPixel, Mask<L> kept) __attribute__((always_inline)) {
+        if constexpr (Fetched) {
+            fetchAhead(results.a + x, d + x);
+            if (!still) fetchAhead(results.b + x);
+        }
         const Vec<L> result = results.inPixels(x, still ? inPixel : x, kept);
         StoreU(IfThenElse(kept, LoadU(d + x), result), d + x);
     };
@@ -117,7 +132,10 @@ void elementRow(ptrdiff_t n, const void* a, const void* b, void* to, const RowPl
     const ptrdiff_t last = n - step;
     ptrdiff_t x = 0;
     if (plan.alpha) {
-        pixelRow(last, results, plan, d);
+        if (plan.fetched)
+            pixelRow<true>(last, results, plan, d);
+        else
+            pixelRow<false>(last, results, plan, d);
         x = last;
     }
     if constexpr (Results::isStreamed)
@@ -137,7 +155,18 @@ void elementRow(ptrdiff_t n, const void* a, const void* b, void* to, const RowPl
             StoreU(third, d + x + 2 * step);
         }
     }
-    for (; x < last; x += step, results.next()) StoreU(results.at(x), d + x);
+    if constexpr (!Results::isUnrolled) {
+        const bool moves = !Results::isConstant && !plan.still, fetched = plan.fetched;
+        for (; x < last; x += step, results.next()) {
+            if (fetched) {
+                fetchAhead(results.a + x, d + x);
+                if (moves) fetchAhead(results.b);
+            }
+            StoreU(results.at(x), d + x);
+        }
+    } else {
+        for (; x < last; x += step, results.next()) StoreU(results.at(x), d + x);
+    }
     StoreU(end, d + last);
     results.finish();
 }

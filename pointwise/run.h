@@ -13,11 +13,15 @@
 
 namespace pxl::PXL_TARGET::pointwise {
 
-// The bytes of an element where the region is too large to stay in the caches, with all its images. In place, what is
+// All images together.
+inline ptrdiff_t bytesOf(const Operands& o, int images) {
+    return ptrdiff_t{o.layout.elements} * o.layout.elementBytes * images * o.roi.width * o.roi.height;
+}
+
+// The bytes of an element where the region is too large to stay in the caches. In place, what is
 // stored has been read before, and AC4 rows are read too.
-inline size_t streamedElement(const Operands& o, int images) {
+inline size_t streamedElement(const Operands& o, ptrdiff_t bytes) {
     const Layout& l = o.layout;
-    const ptrdiff_t bytes = l.elements * l.elementBytes * images * o.roi.width * o.roi.height;
     if (bytes < streamedBytes || l.alpha || o.dst == o.a || o.dst == o.b) return 0;
     return static_cast<size_t>(l.elementBytes);
 }
@@ -31,8 +35,10 @@ using Destination = Image<uint8_t, anyElements>;
 [[gnu::noinline, gnu::flatten]] inline void walkTwoSources(const Operands& o, RowFunction row, const void* op,
                                                            bool* given = nullptr) {
     const Layout& l = o.layout;
-    const RowPlan pixelPlan{op, given, false, l.alpha, l.endPhase, 0},
-        plain{op, given, false, nullptr, 0, streamedElement(o, 3)};
+    const ptrdiff_t bytes = bytesOf(o, 3);
+    const bool fetched = bytes >= fetchedAheadFrom;
+    const RowPlan pixelPlan{op, given, false, fetched, l.alpha, l.endPhase, 0},
+        plain{op, given, false, fetched, nullptr, 0, streamedElement(o, bytes)};
     const ptrdiff_t e = l.elementBytes, parts = l.parts;
     const auto elements = [=, &plain](ptrdiff_t n, const uint8_t* a, const uint8_t* b, uint8_t* d) {
         row(n * parts, a, b, d, plain);
@@ -57,8 +63,10 @@ using Destination = Image<uint8_t, anyElements>;
     const Layout& l = o.layout;
     const ptrdiff_t e = l.elementBytes, pixel = l.elements * e;
     const ptrdiff_t unit = l.elements * l.parts, skipped = (l.elements - l.channels) * l.parts; // lanes
-    const RowPlan plan{op, nullptr, true, l.alpha, l.endPhase, streamedElement(o, 2)},
-        alike{op, nullptr, false, nullptr, 0, 0};
+    const ptrdiff_t bytes = bytesOf(o, 2);
+    const bool fetched = bytes >= fetchedAheadFrom;
+    const RowPlan plan{op, nullptr, true, fetched, l.alpha, l.endPhase, streamedElement(o, bytes)},
+        alike{op, nullptr, false, false, nullptr, 0, 0};
     const auto kernel = [=, &o, &l, &plan, &alike](ptrdiff_t n, const uint8_t* s, uint8_t* d) {
         const uint8_t* constants = o.constants;
         if (n > 1) return row(n * unit - skipped, s, constants, d, plan);

@@ -14,6 +14,7 @@ typedef __m128i IntRegister;
 // Abilities: shuffles of the bytes of a block by a vector of places, and sums of products of byte pairs.
 inline constexpr bool hasByteShuffle = false;
 inline constexpr bool hasBytePairSums = false;
+inline constexpr bool hasIntMinMax = false;
 
 } // namespace pxl::PXL_TARGET
 

@@ -11,9 +11,11 @@ namespace pxl::PXL_TARGET {
 inline constexpr int vecBytes = 32;
 typedef __m256i IntRegister;
 
-// Abilities: shuffles of the bytes of a block by a vector of places, and sums of products of byte pairs.
+// Abilities: shuffles of the bytes of a block by a vector of places, sums of products of byte pairs, and the
+// smaller and the larger one of 32-bit lanes.
 inline constexpr bool hasByteShuffle = true;
 inline constexpr bool hasBytePairSums = true;
+inline constexpr bool hasIntMinMax = true;
 
 } // namespace pxl::PXL_TARGET
 
