@@ -4,7 +4,7 @@
 // The results are those of double precision, but 8u, and 16 bits with scaleFactor >= 0, come from single precision:
 // there a quotient is at least 2^-18 of it away from every integer and tie that it is not, so 2^-24 of it does not
 // matter. (The quotient y / (x * 2^n) is 1 / (2y) of it away, y * 2^n / x at least 1 / (2x), with a quotient up to 256
-// and x up to 255 for 8u.)
+// and x up to 255 for 8u.) 16 bits with scaleFactor from -8 to -1 are rounded by their remainders.
 #include "arith/quotients.h"
 #include "frame/checks.h"
 #include "frame/ranges.h"
@@ -54,6 +54,20 @@ struct RoundedQuotient : Quotient {
     }
 };
 
+// What remainders are compared with.
+template <int Mode>
+struct RoundRemainder {
+    PXL_INLINE static Vec<uint16_t> even(Vec<uint16_t> x) {
+        const Vec<uint16_t> one = Set<uint16_t>(1);
+        if constexpr (Mode == PXL_ROUND_ZERO) return x - one;
+        if constexpr (Mode == PXL_ROUND_NEAR_EVEN) return ShiftRight<1>(x);
+        return ShiftRight<1>(x - one);
+    }
+    PXL_INLINE static Vec<uint16_t> between(Vec<uint16_t> x) {
+        return Mode == PXL_ROUND_NEAR_EVEN ? AndNot(x, Set<uint16_t>(1)) : Zero<uint16_t>();
+    }
+};
+
 // Integers in the lower bits of doubles, negative ones as their complement.
 PXL_INLINE Vec<uint64_t> lowerBits(Vec<double> integers) {
     return BitCast<uint64_t>(integers + Set<double>(1.5 * unitsAtEnd));
@@ -84,9 +98,11 @@ PxlStatus divideRounded(const pointwise::TwoSources& operands, int scaleFactor) 
     if constexpr (sizeof(T) == 1) {
         const float factor = factorOf<float>(scaleFactor, -33, 18);
         return pointwise::run<T>(operands, RealQuotient<T, float, RoundByte<Mode>>(factor));
-    } else if (scaleFactor < 0) {
-        const double factor = factorOf<double>(scaleFactor, -33, 0);
+    } else if (scaleFactor < -8) {
+        const double factor = factorOf<double>(scaleFactor, -33, -9);
         return pointwise::run<T>(operands, RealQuotient<T, double, RoundDouble<T, Mode>>(factor));
+    } else if (scaleFactor < 0) {
+        return pointwise::run<T>(operands, RaisedQuotient<T, RoundRemainder<Mode>>(scaleFactor));
     } else {
         return pointwise::run<T>(operands, RoundedQuotient<T, Mode>{{}, factorOf<float>(scaleFactor, 0, 18)});
     }

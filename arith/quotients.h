@@ -228,26 +228,28 @@ struct LoweredWordQuotient : Quotient {
     }
 };
 
-// scaleFactor from -8 to -1. The dividend is less than 2^24, so the quotient in single precision, cut to an integer, is never
-// above the true one, and one below it only where that is an integer. The remainder, which lower halves of dividend and
-// product have, tells whether it goes up: where it is larger than `even`, or than even - between where the quotient is odd.
-// For odd x half of it is no tie, but above 32768 both neighbours of the half are.
-struct RaisedWordQuotient : Quotient {
+// scaleFactor from -8 to -1, 16u and magnitudes of 16s. The dividend is less than 2^24, so the quotient in single precision, cut
+// to an integer, is never above the true one, and one below it only where that is an integer. The remainder, which lower halves
+// of dividend and product have, tells whether it goes up: where it is larger than `even`, or than even - between where the
+// quotient is odd. Both come from a Rounding.
+template <class T, class Rounding>
+struct RaisedQuotient : Quotient {
     struct Divisor {
         BlockNumbers number;
-        Vec<uint16_t> x, even, between;
-        Mask<uint16_t> zero;
+        Vec<uint16_t> x, even, between, minus;
+        Mask<T> zero;
     };
     float factor;
     int shift; // of the dividend
 
-    explicit RaisedWordQuotient(int scaleFactor) : factor(factorOf<float>(scaleFactor, -8, -1)), shift(-scaleFactor) {}
+    explicit RaisedQuotient(int scaleFactor) : factor(factorOf<float>(scaleFactor, -8, -1)), shift(-scaleFactor) {}
 
-    PXL_INLINE Divisor prepare(Vec<uint16_t> x) const {
-        const Vec<uint16_t> one = Set<uint16_t>(1), odd = x & one, close = odd & ShiftRight<15>(x);
-        return {BlockNumbers(x), x, ShiftRight<1>(x) + close, (one - odd) + close + close, x == Zero<uint16_t>()};
+    PXL_INLINE Divisor prepare(Vec<T> v) const {
+        const Vec<uint16_t> minus = minusOf(v), x = (BitCast<uint16_t>(v) ^ minus) - minus;
+        return {BlockNumbers(x), x, Rounding::even(x), Rounding::between(x), minus, v == Zero<T>()};
     }
-    PXL_INLINE Vec<uint16_t> operator()(Vec<uint16_t> y, const Divisor& x) const {
+    PXL_INLINE Vec<T> operator()(Vec<T> v, const Divisor& x) const {
+        const Vec<uint16_t> minus = minusOf(v), y = (BitCast<uint16_t>(v) ^ minus) - minus;
         const BlockNumbers dividend(y);
         const auto divide = [&](Vec<float> number, Vec<float> by) {
             return TruncateToInt(limitWord(number * Set<float>(factor) / by));
@@ -256,7 +258,25 @@ struct RaisedWordQuotient : Quotient {
             ReorderDemote2To<uint16_t>(divide(dividend.lower, x.number.lower), divide(dividend.upper, x.number.upper));
         const Vec<uint16_t> one = Set<uint16_t>(1), remainder = ShiftLeftSame(y, shift) - q * x.x;
         const Vec<uint16_t> up = Min(SaturatedSub(remainder, x.even - (q & one) * x.between), one);
-        return SaturatedAdd(q, AndNot(x.zero, up));
+        const Vec<uint16_t> magnitude = SaturatedAdd(q, AndNot(BitCast<uint16_t>(x.zero), up));
+        if constexpr (std::is_unsigned_v<T>) return magnitude;
+        const Vec<uint16_t> sign = minus ^ x.minus;
+        return BitCast<T>((Min(magnitude, Set<uint16_t>(32767) - sign) ^ sign) - sign);
+    }
+
+private:
+    PXL_INLINE static Vec<uint16_t> minusOf(Vec<T> v) {
+        if constexpr (std::is_unsigned_v<T>) return Zero<uint16_t>();
+        return BitCast<uint16_t>(ShiftRight<15>(v));
+    }
+};
+
+// For odd x half of it is no tie, but above 32768 both neighbours of the half are.
+struct CutTies {
+    PXL_INLINE static Vec<uint16_t> close(Vec<uint16_t> x) { return x & ShiftRight<15>(x); }
+    PXL_INLINE static Vec<uint16_t> even(Vec<uint16_t> x) { return ShiftRight<1>(x) + close(x); }
+    PXL_INLINE static Vec<uint16_t> between(Vec<uint16_t> x) {
+        return (AndNot(x, Set<uint16_t>(1)) + close(x)) + close(x);
     }
 };
 
@@ -282,7 +302,7 @@ PXL_INLINE auto withQuotient(int scaleFactor, Apply&& apply) {
     } else if constexpr (std::is_same_v<L, uint16_t>) {
         if (scaleFactor == 0) return apply(WordQuotient{});
         if (scaleFactor < -8) return apply(FarWordQuotient(factorOf<double>(scaleFactor, -32, -9)));
-        if (scaleFactor < 0) return apply(RaisedWordQuotient(scaleFactor));
+        if (scaleFactor < 0) return apply(RaisedQuotient<uint16_t, CutTies>(scaleFactor));
         return apply(LoweredWordQuotient(scaleFactor < 17 ? scaleFactor : 17));
     } else {
         if (scaleFactor == 0) return apply(ShortQuotient{});
