@@ -144,13 +144,13 @@ struct ReciprocalQuotient {
     float factor;
 
     PXL_INLINE BlockNumbers prepare(Vec<int16_t> x) const {
-        BlockNumbers reciprocals(x, Zero<uint16_t>());
+        BlockNumbers reciprocals = blockNumbersOf(x);
         reciprocals.lower = Set<float>(factor) / reciprocals.lower;
         reciprocals.upper = Set<float>(factor) / reciprocals.upper;
         return reciprocals;
     }
     PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> y, const BlockNumbers& reciprocals) const {
-        const BlockNumbers dividend(y, Zero<uint16_t>());
+        const BlockNumbers dividend = blockNumbersOf(y);
         return roundShorts(dividend.lower * reciprocals.lower, dividend.upper * reciprocals.upper);
     }
 };
@@ -163,8 +163,9 @@ inline bool missesMiddle(int64_t divisor) {
 
 // ---- regions --------------------------------------------------------------------------------------------------------
 
-// Whether multiplication gives the quotients. 8u has shorter ways where it is not scaled down; remainders of 16u divisors above 32768
-// do not fit 16 bits where the scale factor is negative; 16s quotients that are scaled up are too fine for single precision.
+// Whether multiplication gives the quotients. 8u has shorter ways where it is not scaled down; remainders of 16u divisors
+// above 32768 do not fit 16 bits where the scale factor is negative; 16s quotients that are scaled up are too fine for
+// single precision.
 template <class T>
 inline bool hasInverse(T x, int scaleFactor) {
     if constexpr (sizeof(T) == 1) return scaleFactor > 0;

@@ -35,15 +35,9 @@ struct RoundedQuotient : Quotient {
     };
     float factor;
 
-    PXL_INLINE static BlockNumbers numbersOf(Vec<T> v) {
-        if constexpr (std::is_signed_v<T>)
-            return {v, Zero<uint16_t>()};
-        else
-            return BlockNumbers(v);
-    }
-    PXL_INLINE Divisor prepare(Vec<T> x) const { return {numbersOf(x), x == Zero<T>()}; }
+    PXL_INLINE Divisor prepare(Vec<T> x) const { return {blockNumbersOf(x), x == Zero<T>()}; }
     PXL_INLINE Vec<T> operator()(Vec<T> y, const Divisor& x) const {
-        const BlockNumbers dividend = numbersOf(y);
+        const BlockNumbers dividend = blockNumbersOf(y);
         const auto divide = [&](Vec<float> number, Vec<float> by) {
             return roundTo<Mode>(AtMost(highestOf<T>, number * Set<float>(factor) / by));
         };

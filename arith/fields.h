@@ -81,4 +81,13 @@ private:
           upper(ConvertToFloat(BitCast<int32_t>(InterleaveUpper(low, high)))) {}
 };
 
+// v as numbers; those of signed elements are 65536 times as much, which quotients do not show.
+template <class T>
+PXL_INLINE BlockNumbers blockNumbersOf(Vec<T> v) {
+    if constexpr (std::is_signed_v<T>)
+        return {v, Zero<uint16_t>()};
+    else
+        return BlockNumbers(v);
+}
+
 } // namespace pxl::PXL_TARGET::arith

@@ -30,21 +30,15 @@ struct FloatScaledProduct {
         if (isSigned) scale /= 65536.f * 65536.f; // the numbers of a and b are 65536 times as much
     }
 
-    PXL_INLINE static BlockNumbers numbersOf(Vec<L> v) {
-        if constexpr (isSigned)
-            return BlockNumbers(v, Zero<uint16_t>());
-        else
-            return BlockNumbers(v);
-    }
     PXL_INLINE Vec<int32_t> round(Vec<float> product) const {
         return NearestInt(Limited ? Min(product, Set<float>(65536)) : product);
     }
     PXL_INLINE Factor prepare(Vec<L> b) const {
-        const BlockNumbers numbers = numbersOf(b);
+        const BlockNumbers numbers = blockNumbersOf(b);
         return {numbers.lower * Set<float>(scale), numbers.upper * Set<float>(scale)};
     }
     PXL_INLINE Vec<L> operator()(Vec<L> a, const Factor& b) const {
-        const BlockNumbers numbers = numbersOf(a);
+        const BlockNumbers numbers = blockNumbersOf(a);
         return ReorderDemote2To<L>(round(numbers.lower * b.lower), round(numbers.upper * b.upper));
     }
 };

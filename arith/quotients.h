@@ -132,7 +132,7 @@ struct ShortQuotient : Quotient {
         return {BlockNumbers(x, Zero<uint16_t>() - zero), zero};
     }
     PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> y, const Divisor& x) const {
-        const BlockNumbers dividend(y, Zero<uint16_t>());
+        const BlockNumbers dividend = blockNumbersOf(y);
         return roundShorts(dividend.lower / x.number.lower, dividend.upper / x.number.upper);
     }
 };
@@ -144,11 +144,9 @@ struct ScaledShortQuotient : Quotient {
 
     explicit ScaledShortQuotient(float f) : factor(f) {}
 
-    PXL_INLINE Divisor prepare(Vec<int16_t> x) const {
-        return {BlockNumbers(x, Zero<uint16_t>()), x == Zero<int16_t>()};
-    }
+    PXL_INLINE Divisor prepare(Vec<int16_t> x) const { return {blockNumbersOf(x), x == Zero<int16_t>()}; }
     PXL_INLINE Vec<int16_t> operator()(Vec<int16_t> y, const Divisor& x) const {
-        const BlockNumbers dividend(y, Zero<uint16_t>());
+        const BlockNumbers dividend = blockNumbersOf(y);
         const auto divide = [&](Vec<float> number, Vec<float> by) {
             return AtMost(32768, number * Set<float>(factor) / by);
         };
